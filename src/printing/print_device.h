@@ -1,0 +1,80 @@
+#pragma once
+
+#include "printing/print_service.h"
+
+enum class LineEnd { no, yes };
+
+// The one print device of the process: a pen that builds a job. Its state (device, page set-up, font) lives between
+// jobs: a routine sets what it needs and leaves the rest. A job begins with the first write and reaches the service as
+// a whole at EndDoc, so it is printed whole or not at all, and there are no blank pages. All coordinates are
+// millimetres.
+class PrintDevice {
+public:
+    explicit PrintDevice(PrintService& service);
+
+    QStringList Printers();
+    // Device in force. Starts as the system's default.
+    int currentPrinter() const;
+    // Makes a member of the list current, with that device's own default page; ends TrackDefault. DeviceError 9 beyond
+    // the list.
+    void setCurrentPrinter(int index);
+    // For the job that begins next (or has begun) alone; after it the former device and a single copy are in force
+    // again. The page set-up is left as it is. DeviceError 9 beyond the list.
+    void useForThisJob(int printer, int copies);
+
+    void setScaleMode(int mode); // 6, millimetres, is the one served
+    void setOrientation(int orientation);
+    void setPaperSize(int paperCode);             // ends a size of the form's own
+    void setTrackDefault(bool follow);            // True: the system's default device, asked afresh when a job begins
+    void setSizeMm(float width, float height);    // the form's own size, upright
+    void setSizeTwips(float width, float height); // the same in 1/1440 inch; what comes to A4 is A4
+
+    // Trailing blanks of a name are ignored. DeviceError 380 for an empty or unknown name; the font stays as it was.
+    void setFontName(const QString& name);
+    void setFontSize(float points); // DeviceError 380 below 1
+    void setFontBold(bool bold);
+    void setFontItalic(bool italic);
+    const Font& font() const;
+
+    void setCurrentX(float x);
+    void setCurrentY(float y);
+    float CurrentX() const;
+    float CurrentY() const;
+
+    // Width in the font in force, with no output; 380 if no usable font has been set.
+    float TextWidth(const QString& text);
+    // Writes at the pen. Line end: x = 0 and one line of the font in force down; otherwise the pen stays behind the
+    // text. An empty text only moves the pen. 380 if no usable font has been set.
+    void Print(const QString& text, LineEnd end);
+    void PaintPicture(const QImage& picture, float x, float y, float width, float height);
+    // The next write begins a page; nothing else happens, so that a job never ends in a blank page.
+    void NewPage();
+
+    // Title of the job that begins next; names the file of a PDF.
+    void setTitle(const QString& title);
+    // Pages written so far in the job that is under way.
+    int pageCount() const;
+    // Name of the device that the job under way goes to.
+    QString deviceName();
+    // Hands the job over and ends it, also if the service refuses it (DeviceError). Without a job a no-op.
+    void EndDoc();
+    // Drops the job. Without a job a no-op.
+    void KillDoc();
+
+private:
+    PrintedPage& page();
+    int jobPrinter();
+    PrintJob takeJob();
+    void requireFont() const;
+
+    PrintService& service_;
+    int current_;
+    bool trackDefault_ = false;
+    PageSetup setup_;
+    Font font_;
+    float x_ = 0;
+    float y_ = 0;
+    std::optional<int> jobPrinter_;
+    bool pageOpen_ = false;
+    PrintJob job_;
+};

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "printing/form_tabs.h"
+#include "printing/print_desk.h"
+
+// The yellow check, upright (Allo) and sideways (Fekvo), for what the tab shows or (Cs) for clients of the list, one
+// page each, with notice and titles from the tab. Single and sideways routines drop the job silently on a device error.
+
+PrintOutcome PrintAlloCsekk(const PrintDesk& desk, const YellowCheckTab& tab);
+PrintOutcome PrintFekvoCsekk(const PrintDesk& desk, const YellowCheckTab& tab);
+// Takes all rows instead of the selected ones while automatic printing (chkAutoPrint) is switched on.
+PrintOutcome PrintCsAlloCsekk(const PrintDesk& desk, const YellowCheckTab& tab, const ListRows& rows,
+                              PrintDialog dialog = PrintDialog::show);
+PrintOutcome PrintCsFekvoCsekk(const PrintDesk& desk, const YellowCheckTab& tab, const ListRows& rows);

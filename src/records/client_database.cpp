@@ -1,0 +1,3 @@
+#include "records/client_database.h"
+
+qint64 clientCount(const ProgramFolder& folder) { return RecordFile<ClientRec>(folder).count(); }
