@@ -30,12 +30,13 @@ std::int64_t amountOf(QStringView typed);
 // font).
 float measuredWidth(PrintDevice& device, const QString& fontName, int size, const QString& text);
 
-// Word rows of a batch page: star in front and behind, two rows only if strictly wider than `limitMm`.
+// Word rows of a batch page: the upper line with a capital, stars in front and behind, two rows only if the words are
+// strictly wider than `limitMm`.
 struct WordRows {
     QString row1;
     QString row2;
 };
-WordRows fitForForm(WordLines words, PrintDevice& device, const QString& fontName, int size, float limitMm);
+WordRows fitForForm(const WordLines& words, PrintDevice& device, const QString& fontName, int size, float limitMm);
 // Word rows of a single print from the two lines of a tab.
 WordRows rowsOfTab(const QString& upper, const QString& lower);
 

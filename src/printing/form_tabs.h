@@ -63,7 +63,8 @@ struct EnvelopeTab {
     bool chkFKCNev = false, chkFKCNev2 = false, chkFKCCim1 = false, chkFKCCim2 = false, chkFKCIrsz = false;
     QString txtFelado5mezo;
     bool chkKepPrint = false;
-    QString lbXpoz, lbYpoz; // picture position, mm
+    QString lbXpoz, lbYpoz;      // picture position, mm, as shown
+    int kepBal = 0, kepFent = 0; // the same as numbers, taken at each press of a print button
 };
 
 struct LabelTab {
@@ -71,6 +72,7 @@ struct LabelTab {
     std::array<QString, 5> ComboBetuSize;
     QString txtLeft, txtTop, txtSzeles, txtMagas; // mm
     QString txtOszlop, txtSor;
+    int gridColumns = 0, gridRows = 0; // the sheet that the ticks show; the two boxes may already hold another
     QString lbKinyomottCimkeNum;
     QString lbNev1, lbNev2, lbHelyseg, lbCim, lbIrsz; // preview of the clicked client's label
     bool chkEgyediCimke = false;

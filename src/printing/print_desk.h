@@ -26,5 +26,5 @@ enum class PrintDialog { show, skip };
 struct PrintOutcome {
     int pages = 0;   // handed over
     QString device;  // where
-    QString trouble; // why nothing was printed; empty if nothing went wrong
+    QString trouble; // the first thing that went wrong or was missing; empty if nothing did
 };

@@ -13,21 +13,23 @@ public:
     explicit PrintDevice(PrintService& service);
 
     QStringList Printers();
-    // Device in force. Starts as the system's default.
+    // Device in force: the one of the job under way or, without a job, the one that the next job goes to. A new
+    // PrintDevice follows the system's default.
     int currentPrinter() const;
     // Makes a member of the list current, with that device's own default page; ends TrackDefault. DeviceError 9 beyond
     // the list.
     void setCurrentPrinter(int index);
-    // For the job that begins next (or has begun) alone; after it the former device and a single copy are in force
-    // again. The page set-up is left as it is. DeviceError 9 beyond the list.
+    // For the job that begins next (or has begun) alone; after its EndDoc or KillDoc, which count without a page too,
+    // the former device and a single copy are in force again. The page set-up is left as it is. DeviceError 9 beyond
+    // the list.
     void useForThisJob(int printer, int copies);
 
-    void setScaleMode(int mode); // 6, millimetres, is the one served
+    void setScaleMode(int mode); // 6, millimetres, is the one served; DeviceError 380 for others
     void setOrientation(int orientation);
     void setPaperSize(int paperCode);             // ends a size of the form's own
     void setTrackDefault(bool follow);            // True: the system's default device, asked afresh when a job begins
-    void setSizeMm(float width, float height);    // the form's own size, upright
-    void setSizeTwips(float width, float height); // the same in 1/1440 inch; what comes to A4 is A4
+    void setSizeMm(float width, float height);    // the form's own size, with orientation 1
+    void setSizeTwips(float width, float height); // the same in 1/1440 inch; within 1 mm of A4 it is plain A4
 
     // Trailing blanks of a name are ignored. DeviceError 380 for an empty or unknown name; the font stays as it was.
     void setFontName(const QString& name);
@@ -47,34 +49,36 @@ public:
     // text. An empty text only moves the pen. 380 if no usable font has been set.
     void Print(const QString& text, LineEnd end);
     void PaintPicture(const QImage& picture, float x, float y, float width, float height);
-    // The next write begins a page; nothing else happens, so that a job never ends in a blank page.
+    // The next write begins a page, with the set-up then in force. Nothing else happens but that the pen goes to 0, 0,
+    // so a job never ends in a blank page.
     void NewPage();
 
-    // Title of the job that begins next; names the file of a PDF.
+    // Title of the job that begins next, of that one alone; names the file of a PDF.
     void setTitle(const QString& title);
     // Pages written so far in the job that is under way.
     int pageCount() const;
-    // Name of the device that the job under way goes to.
+    // Name of the device in force.
     QString deviceName();
-    // Hands the job over and ends it, also if the service refuses it (DeviceError). Without a job a no-op.
+    // Hands the job over and ends it, also if the service refuses it (DeviceError). Without a page nothing is handed
+    // over. The pen goes to 0, 0.
     void EndDoc();
-    // Drops the job. Without a job a no-op.
+    // Drops the job. The pen goes to 0, 0.
     void KillDoc();
 
 private:
     PrintedPage& page();
-    int jobPrinter();
+    int requirePrinter(int index);
+    const Font& usableFont() const;
     PrintJob takeJob();
-    void requireFont() const;
 
     PrintService& service_;
-    int current_;
-    bool trackDefault_ = false;
+    int current_ = 0;
+    bool trackDefault_ = true;
     PageSetup setup_;
     Font font_;
     float x_ = 0;
     float y_ = 0;
-    std::optional<int> jobPrinter_;
+    std::optional<int> jobPrinter_; // fixed at the first write, or chosen for this job
     bool pageOpen_ = false;
     PrintJob job_;
 };

@@ -2,6 +2,8 @@
 
 #include "printing/form_tabs.h"
 #include "printing/print_desk.h"
+#include "records/client_records.h"
+#include "settings/general_settings.h"
 
 // The yellow check, upright (Allo) and sideways (Fekvo), for what the tab shows or (Cs) for clients of the list, one
 // page each, with notice and titles from the tab. Single and sideways routines drop the job silently on a device error.
@@ -12,3 +14,7 @@ PrintOutcome PrintFekvoCsekk(const PrintDesk& desk, const YellowCheckTab& tab);
 PrintOutcome PrintCsAlloCsekk(const PrintDesk& desk, const YellowCheckTab& tab, const ListRows& rows,
                               PrintDialog dialog = PrintDialog::show);
 PrintOutcome PrintCsFekvoCsekk(const PrintDesk& desk, const YellowCheckTab& tab, const ListRows& rows);
+
+// The payment deadline as it stands on a check: the label of the settings, a blank, the client's own text, which may be
+// empty. For use while chkFizHat is True.
+QString deadlineText(const Set& set, const ClientRec& client);

@@ -1,3 +1,211 @@
 #include "records/client_database.h"
 
+#include <QDir>
+#include <QFileInfo>
+
+#include <filesystem>
+#include <system_error>
+
+// How the pair is replaced as one step. The new files are written whole and flushed under names of their own; then the
+// marker, which holds their sizes, is written: the point of no return. Then
+//     nevek1.dat -> nevek1.regi, nevx.dat -> nevek1.dat, xxkoz.dat -> kozl3sor.dat,
+// the marker goes, and nevek1.regi after it. A start that finds the marker goes on from wherever a kill came. Without a
+// marker new files are never used, whoever left them.
+//
+// nevek1.regi is there for a rename that the system refuses half-way (Windows does while another program has the file
+// open): as long as the twins are the old ones, the old clients can be put back.
+
+namespace {
+
+constexpr qsizetype clientLength = sizeof(ClientRec);
+constexpr qsizetype twinLength = sizeof(TwinRec);
+constexpr qsizetype bufferSize = 1 << 20;
+
+struct PairPaths {
+    explicit PairPaths(const ProgramFolder& folder)
+        : clients(folder.file(QString::fromLatin1(ClientRec::fileName)))
+        , twins(folder.file(QString::fromLatin1(TwinRec::fileName)))
+        , nextClients(folder.file(QStringLiteral("nevx.dat")))
+        , nextTwins(folder.file(QStringLiteral("xxkoz.dat")))
+        , previousClients(folder.file(QStringLiteral("nevek1.regi")))
+        , marker(folder.file(QStringLiteral("csere.kesz"))) {}
+
+    QString clients, twins;
+    QString nextClients, nextTwins;
+    QString previousClients;
+    QString marker;
+};
+
+// Replaces `to` in one step where it exists; QFile::rename would refuse.
+bool moveOnto(const QString& from, const QString& to) {
+    std::error_code error;
+    std::filesystem::rename(QFileInfo(from).filesystemFilePath(), QFileInfo(to).filesystemFilePath(), error);
+    return !error;
+}
+
+bool isGone(const QString& path) { return QFile::remove(path) || !QFile::exists(path); }
+
+bool writeMarker(const PairPaths& paths) {
+    QSaveFile marker(paths.marker);
+    if (!marker.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) return false;
+    const qint64 clientBytes = QFileInfo(paths.nextClients).size();
+    const qint64 twinBytes = QFileInfo(paths.nextTwins).size();
+    marker.write(QByteArray::number(clientBytes) + ' ' + QByteArray::number(twinBytes) + '\n');
+    return marker.commit();
+}
+
+// A new file waits in full length, or is in its place already.
+bool isReady(const QString& next, const QString& current, const QByteArray& markedSize) {
+    const QFileInfo file(QFile::exists(next) ? next : current);
+    return file.isFile() && QByteArray::number(file.size()) == markedSize;
+}
+
+bool newPairIsWhole(const PairPaths& paths) {
+    QFile marker(paths.marker);
+    if (!marker.open(QIODevice::ReadOnly)) return false;
+    const QList<QByteArray> sizes = marker.read(64).trimmed().split(' ');
+    return sizes.size() == 2 && isReady(paths.nextClients, paths.clients, sizes[0]) &&
+           isReady(paths.nextTwins, paths.twins, sizes[1]);
+}
+
+// Each step passes over what an earlier, killed run has done.
+bool putNewPairInPlace(const PairPaths& paths) {
+    if (QFile::exists(paths.nextClients)) {
+        if (!QFile::exists(paths.previousClients) && QFileInfo(paths.clients).isFile() &&
+            !moveOnto(paths.clients, paths.previousClients))
+            return false;
+        if (!moveOnto(paths.nextClients, paths.clients)) return false;
+    }
+    return !QFile::exists(paths.nextTwins) || moveOnto(paths.nextTwins, paths.twins);
+}
+
+bool putOldClientsBack(const PairPaths& paths) {
+    const bool swapIsHalfDone = QFile::exists(paths.nextTwins) || !QFile::exists(paths.clients);
+    if (!swapIsHalfDone || !QFile::exists(paths.previousClients)) return true;
+    return moveOnto(paths.previousClients, paths.clients);
+}
+
+void removeLeftovers(const PairPaths& paths) {
+    QFile::remove(paths.nextClients);
+    QFile::remove(paths.nextTwins);
+    QFile::remove(paths.previousClients);
+    // What a QSaveFile was writing when its process died.
+    QDir folder = QFileInfo(paths.marker).dir();
+    for (const QString& file : {paths.nextClients, paths.nextTwins, paths.marker}) {
+        const QString pattern = QFileInfo(file).fileName() + QStringLiteral(".??????");
+        for (const QString& unfinished : folder.entryList({pattern}, QDir::Files))
+            folder.remove(unfinished);
+    }
+}
+
+// Puts the new pair in place, or leaves the old one. If the old clients can't be put back now either, all stays as it
+// is for the next start.
+bool finish(const PairPaths& paths) {
+    const bool finished = newPairIsWhole(paths) && putNewPairInPlace(paths);
+    if (!finished && !putOldClientsBack(paths)) return false;
+    if (isGone(paths.marker)) removeLeftovers(paths);
+    return finished;
+}
+
+template<class Rec>
+std::optional<QByteArray> wholeRecords(const ProgramFolder& folder) {
+    QByteArray records = RecordFile<Rec>(folder).readAll();
+    const qint64 fileSize = QFileInfo(folder.file(QString::fromLatin1(Rec::fileName))).size();
+    constexpr qint64 length = sizeof(Rec);
+    if (records.size() != fileSize - fileSize % length) return std::nullopt;
+    return records;
+}
+
+QByteArrayView bytesOf(const auto& record) {
+    return {reinterpret_cast<const char*>(&record), qsizetype{sizeof record}};
+}
+
+} // namespace
+
 qint64 clientCount(const ProgramFolder& folder) { return RecordFile<ClientRec>(folder).count(); }
+
+std::optional<ClientPair> readClientPair(const ProgramFolder& folder) {
+    std::optional<QByteArray> clients = wholeRecords<ClientRec>(folder);
+    std::optional<QByteArray> twins = wholeRecords<TwinRec>(folder);
+    if (!clients || !twins) return std::nullopt;
+    twins->resize(clients->size() / clientLength * twinLength, '\0');
+    return ClientPair{std::move(*clients), std::move(*twins)};
+}
+
+ClientReplacement::ClientReplacement(const ProgramFolder& folder)
+    : folder_(folder)
+    , clients_(PairPaths(folder).nextClients)
+    , twins_(PairPaths(folder).nextTwins) {
+    // Unbuffered: QSaveFile looks at the errors of its own writes only, not at those of a buffer flushed behind it.
+    constexpr auto mode = QIODevice::WriteOnly | QIODevice::Unbuffered;
+    whole_ = clients_.open(mode) && twins_.open(mode);
+}
+
+void ClientReplacement::append(const Client& client) {
+    buffer_.clients.append(bytesOf(client.client));
+    buffer_.twins.append(bytesOf(client.twin));
+    if (buffer_.clients.size() >= bufferSize) flush();
+}
+
+void ClientReplacement::append(QByteArrayView clients, QByteArrayView twins) {
+    flush();
+    whole_ = whole_ && clients_.write(clients.data(), clients.size()) == clients.size() &&
+             twins_.write(twins.data(), twins.size()) == twins.size();
+}
+
+void ClientReplacement::flush() {
+    if (buffer_.clients.isEmpty()) return;
+    const ClientPair full = std::exchange(buffer_, {});
+    append(full.clients, full.twins);
+    buffer_.clients.reserve(bufferSize + clientLength);
+    buffer_.twins.reserve(bufferSize);
+}
+
+bool ClientReplacement::commit() {
+    flush();
+    const PairPaths paths(folder_);
+    clientCount(folder_); // creates a missing file, so that there always is an old one to put back
+    // A marker of an earlier commit would speak for files that are not its own.
+    if (!whole_ || !isGone(paths.marker) || !isGone(paths.previousClients)) return false;
+    if (!clients_.commit() || !twins_.commit() || !writeMarker(paths)) {
+        removeLeftovers(paths);
+        return false;
+    }
+    return finish(paths);
+}
+
+bool finishInterruptedCommit(const ProgramFolder& folder) {
+    const PairPaths paths(folder);
+    if (QFile::exists(paths.marker)) return finish(paths);
+    removeLeftovers(paths);
+    return true;
+}
+
+qint64 addClient(const ProgramFolder& folder, const Client& client) {
+    RecordFile<ClientRec> clients(folder);
+    const qint64 number = clients.count() + 1;
+    // The count of a file that can't be opened is 0: its first twin must not be overwritten.
+    if (!clients.isWritable() || number > maxClientNumber) return 0;
+    // The twin first: the client exists only once the last byte of its own record is there.
+    const bool stored = RecordFile<TwinRec>(folder).write(number, client.twin) && clients.write(number, client.client);
+    return stored ? number : 0;
+}
+
+bool modifyClient(const ProgramFolder& folder, qint64 number, const Client& client) {
+    RecordFile<ClientRec> clients(folder);
+    if (!clients.isWritable() || number < 1 || number > clients.count()) return false;
+    return RecordFile<TwinRec>(folder).write(number, client.twin) && clients.write(number, client.client);
+}
+
+bool deleteClient(const ProgramFolder& folder, qint64 number) {
+    const std::optional<ClientPair> pair = readClientPair(folder);
+    if (!pair || number < 1 || number > pair->clients.size() / clientLength) return false;
+    const QByteArrayView clients(pair->clients);
+    const QByteArrayView twins(pair->twins);
+    ClientReplacement replacement(folder);
+    replacement.append(clients.first((number - 1) * clientLength), twins.first((number - 1) * twinLength));
+    replacement.append(clients.sliced(number * clientLength), twins.sliced(number * twinLength));
+    return replacement.commit();
+}
+
+bool wipeClients(const ProgramFolder& folder) { return ClientReplacement(folder).commit(); }

@@ -5,8 +5,10 @@
 
 #include <QSaveFile>
 
+#include <optional>
+
 // The client database is a pair of files in step: record k of both is one client. A client exists once its record in
-// nevek1.dat is whole; a shorter twin file reads as zeros.
+// nevek1.dat is whole; a shorter twin file reads as zeros, a longer one has a tail that belongs to nobody.
 
 // Beyond this number a client cannot be picked from the list: the held record number has 16 bits.
 constexpr qint64 maxClientNumber = 32767;
@@ -16,34 +18,57 @@ struct Client {
     TwinRec twin;
 };
 
+// The whole database as the bytes of its records, as many twins as clients.
+struct ClientPair {
+    QByteArray clients;
+    QByteArray twins;
+};
+
 // Number of clients.
 qint64 clientCount(const ProgramFolder& folder);
 
+// Reads each file once and brings the twins into step. Nothing if a file is there but can't be read.
+std::optional<ClientPair> readClientPair(const ProgramFolder& folder);
+
 // A new pair of files in the making: written aside and flushed, then put in the place of the old pair as one step. A
-// kill at any moment leaves the old pair or, after finishInterruptedCommit, the new one, both files in step.
+// kill at any moment leaves the old pair or, after finishInterruptedCommit, the new one, both files in step. Destroyed
+// without a commit it leaves no trace.
 class ClientReplacement {
 public:
     explicit ClientReplacement(const ProgramFolder& folder);
 
-    // Appends raw records; the byte counts are multiples of the record lengths.
-    void appendClients(QByteArrayView records);
-    void appendTwins(QByteArrayView records);
-    // False: nothing was replaced, the old pair stands (disk full, folder not writable). To be called once, last.
+    void append(const Client& client);
+    // Raw records, as many twins as clients.
+    void append(QByteArrayView clients, QByteArrayView twins);
+    // False: nothing was replaced, the old pair stands (disk full, folder not writable, a file held by another
+    // program). To be called once, last.
     [[nodiscard]] bool commit();
 
 private:
-    const ProgramFolder& folder_;
+    void flush();
+
+    ProgramFolder folder_;
     QSaveFile clients_;
     QSaveFile twins_;
-    bool whole_ = true;
+    ClientPair buffer_;
+    bool whole_; // every byte so far reached the files
 };
 
 // Finishes or clears away what a killed process left of a commit. Run once at start, before anyone opens the pair.
-void finishInterruptedCommit(const ProgramFolder& folder);
+// False: the new pair that was to be finished is damaged or can't be put in place, and the old one stands.
+bool finishInterruptedCommit(const ProgramFolder& folder);
+
+// Stores a client behind the last one and returns its number; 0, and the database is as it was, if it holds
+// maxClientNumber clients already or can't be written.
+[[nodiscard]] qint64 addClient(const ProgramFolder& folder, const Client& client);
+
+// Writes both records of client `number`. False, and nothing is written, if there is no such client; also false if the
+// files can't be written.
+[[nodiscard]] bool modifyClient(const ProgramFolder& folder, qint64 number, const Client& client);
 
 // Deletes client `number`; those behind it move down by one. False, and nothing changes, if it isn't there or the new
 // pair could not be written.
 [[nodiscard]] bool deleteClient(const ProgramFolder& folder, qint64 number);
 
-// Empties the database.
+// Empties the database. False, and nothing changes, if that could not be written.
 [[nodiscard]] bool wipeClients(const ProgramFolder& folder);

@@ -32,7 +32,7 @@ bool RawRecordFile::write(qint64 k, const char* record) {
 }
 
 QByteArray RawRecordFile::readAll() {
-    if (!file_.seek(0)) return {};
+    if (!file_.isOpen() || !file_.seek(0)) return {};
     QByteArray bytes(static_cast<qsizetype>(count() * recordLength_), Qt::Uninitialized);
     bytes.truncate(static_cast<qsizetype>(std::max<qint64>(0, file_.read(bytes.data(), bytes.size()))));
     bytes.truncate(bytes.size() - bytes.size() % static_cast<qsizetype>(recordLength_));

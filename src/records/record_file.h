@@ -17,6 +17,8 @@ public:
 
     // Whole records in the file, worked out anew at each call; an incomplete tail doesn't count.
     qint64 count() const;
+    // False for a write-protected file, and for one that could not be opened at all.
+    bool isWritable() const { return file_.isWritable(); }
     // Record k, or zeros beyond the end. The file is never made longer.
     void read(qint64 k, char* record);
     // Writing at count() + 1 appends, over an incomplete tail if there is one; farther out, the gap is filled with
@@ -40,6 +42,7 @@ public:
         : file_(folder, QString::fromLatin1(Rec::fileName), static_cast<qint64>(sizeof(Rec))) {}
 
     qint64 count() const { return file_.count(); }
+    bool isWritable() const { return file_.isWritable(); }
     Rec read(qint64 k) {
         Rec record;
         file_.read(k, reinterpret_cast<char*>(&record));

@@ -34,6 +34,23 @@ constexpr auto bytes = [] {
     return table;
 }();
 
+// Upper-case form of every byte: all pairs of the code page lie a fixed step apart, but for two.
+constexpr auto capitals = [] {
+    std::array<char, 256> table{};
+    for (unsigned i = 0; i < table.size(); ++i)
+        table[i] = static_cast<char>(i);
+    const auto pair = [&table](unsigned lower, unsigned upper) { table[lower] = static_cast<char>(upper); };
+    for (unsigned i = 'a'; i <= 'z'; ++i)
+        pair(i, i - 0x20);
+    for (unsigned i = 0xE0; i <= 0xFE; ++i)
+        if (i != 0xF7) pair(i, i - 0x20); // the division sign has no capital
+    for (const unsigned i : {0x9AU, 0x9CU, 0x9DU, 0x9EU, 0x9FU, 0xB3U, 0xBAU, 0xBFU})
+        pair(i, i - 0x10);
+    pair(0xB9, 0xA5); // ą
+    pair(0xBE, 0xBC); // ľ
+    return table;
+}();
+
 char byteOrNul(char16_t unit) { return unit < bytes.size() ? bytes[unit] : '\0'; }
 
 } // namespace
@@ -61,6 +78,8 @@ QByteArray encode(QStringView text) {
         if (!unit.isLowSurrogate()) encoded.append(toByte(unit.unicode()));
     return encoded;
 }
+
+char fold(char byte) { return capitals[static_cast<unsigned char>(byte)]; }
 
 bool canEncode(QStringView text) {
     return std::all_of(text.begin(), text.end(), [](QChar unit) {

@@ -19,6 +19,9 @@ char16_t toUnicode(char byte);
 // The byte of one UTF-16 unit, or '?'.
 char toByte(char16_t unit);
 
+// Upper-case form of a letter, any other byte as it is: what a comparison without regard to case works on.
+char fold(char byte);
+
 // True if every letter of `text` has a byte of its own, so that nothing is lost by storing it.
 bool canEncode(QStringView text);
 

@@ -1,0 +1,24 @@
+#include "mainwindow/frmTarlimo.h"
+#include "platform/open_document.h"
+#include "platform/qt_print_service.h"
+#include "platform/qt_prompts.h"
+#include "platform/session_end.h"
+#include "platform/system_information.h"
+
+#include <QApplication>
+#include <QIcon>
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    QApplication::setApplicationVersion(QStringLiteral(TARLIMO_VERSION));
+    const ProgramFolder folder(QApplication::applicationDirPath());
+    QApplication::setWindowIcon(QIcon(folder.file(QStringLiteral("tarlimo.png"))));
+
+    QtPrintService printing(folder);
+    QtPrompts prompts;
+    frmTarlimo window(
+        folder, {printing, prompts, openDocument, [&printing] { return printing.lastPdf(); }, systemInformationTool()});
+    onTerminationRequest(&window, [&window] { window.close(); });
+    window.show();
+    return QApplication::exec();
+}

@@ -1,0 +1,88 @@
+#include "exchange/csv_import.h"
+
+#include "exchange/csv_clients.h"
+#include "records/windows1250.h"
+
+#include <QFileInfo>
+#include <QStringDecoder>
+
+#include <algorithm>
+
+namespace {
+
+using Result = ImportOutcome::Result;
+
+enum class Encoding { windows1250, utf8 };
+
+// Hands the whole text on in pieces, as long as `take` wants more. False if the device fails.
+template<class Take>
+bool readInPieces(QIODevice& csv, Take take) {
+    QByteArray piece(1 << 20, Qt::Uninitialized);
+    if (!csv.seek(0)) return false;
+    while (true) {
+        const qint64 length = csv.read(piece.data(), piece.size());
+        if (length <= 0) return length == 0;
+        if (!take(QByteArrayView(piece.constData(), length))) return true;
+    }
+}
+
+// Nothing if the device fails.
+std::optional<Encoding> findEncoding(QIODevice& csv) {
+    constexpr char byteOrderMark[] = "\xEF\xBB\xBF";
+    QStringDecoder utf8(QStringDecoder::Utf8);
+    bool marked = false;
+    bool beyondAscii = false;
+    bool first = true;
+    const bool wholeRead = readInPieces(csv, [&](QByteArrayView piece) {
+        if (std::exchange(first, false)) marked = piece.startsWith(byteOrderMark);
+        const QString text = utf8.decode(piece);
+        beyondAscii = beyondAscii || std::any_of(text.begin(), text.end(), [](QChar c) { return c.unicode() > 127; });
+        return !marked && !utf8.hasError();
+    });
+    if (!wholeRead) return std::nullopt;
+    return marked || (beyondAscii && !utf8.hasError()) ? Encoding::utf8 : Encoding::windows1250;
+}
+
+bool readClients(QIODevice& csv, Encoding encoding, CsvClientReader& reader, const ProgressFn& progress) {
+    QStringDecoder utf8(QStringDecoder::Utf8); // drops the byte order mark
+    const bool wholeRead = readInPieces(csv, [&](QByteArrayView piece) {
+        if (encoding == Encoding::utf8)
+            reader.feed(windows1250::encode(QString(utf8.decode(piece))));
+        else
+            reader.feed(piece);
+        if (progress) progress(csv.pos(), csv.size());
+        return true;
+    });
+    reader.finish();
+    return wholeRead;
+}
+
+} // namespace
+
+ImportOutcome importClients(const QString& path, const ProgramFolder& folder, ImportMode mode,
+                            const ProgressFn& progress) {
+    // A plain file only: a device or a pipe has no end that could be waited for.
+    QFile csv(path);
+    if (!QFileInfo(path).isFile() || !csv.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) return {};
+    return importClients(csv, folder, mode, progress);
+}
+
+ImportOutcome importClients(QIODevice& csv, const ProgramFolder& folder, ImportMode mode, const ProgressFn& progress) {
+    const std::optional<Encoding> encoding = findEncoding(csv);
+    if (!encoding) return {};
+
+    ClientReplacement replacement(folder);
+    if (mode == ImportMode::append) {
+        const std::optional<ClientPair> present = readClientPair(folder);
+        if (!present) return {Result::notWritten};
+        replacement.append(present->clients, present->twins);
+    }
+    qint64 clients = 0;
+    CsvClientReader reader(importColumns, [&](const Client& client) {
+        replacement.append(client);
+        ++clients;
+    });
+    if (!readClients(csv, *encoding, reader, progress)) return {};
+    if (clients == 0) return {Result::empty};
+    return {replacement.commit() ? Result::imported : Result::notWritten, clients, reader.badAmounts()};
+}

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "records/program_folder.h"
+
+#include <QIODevice>
+
+#include <functional>
+
+// What becomes of the clients that are there already.
+enum class ImportMode { append, overwrite };
+
+struct ImportOutcome {
+    enum class Result {
+        imported,
+        empty,      // not one line: the database is as it was, in overwrite mode too
+        unreadable, // no such file, no right to it, or an error on the way: the database is as it was
+        notWritten  // the new database could not be written, or the old one not read: it is as it was
+    };
+    Result result = Result::unreadable;
+    qint64 clients = 0;    // lines read
+    qint64 badAmounts = 0; // of these, how many have an amount that could not be understood and became 0
+};
+
+// Called after each piece of a megabyte.
+using ProgressFn = std::function<void(qint64 bytesDone, qint64 bytesTotal)>;
+
+// Reads the clients of a text file into the database, which is replaced as one step at the end. UTF-8 is known by its
+// byte order mark or by being valid UTF-8 with letters beyond ASCII; anything else is Windows-1250. Memory doesn't grow
+// with the file.
+ImportOutcome importClients(const QString& path, const ProgramFolder& folder, ImportMode mode,
+                            const ProgressFn& progress = {});
+// The same from any device that is open for reading and can go back to its start.
+ImportOutcome importClients(QIODevice& csv, const ProgramFolder& folder, ImportMode mode,
+                            const ProgressFn& progress = {});

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "printing/print_device.h"
+#include "records/program_folder.h"
+
+#include <QWidget>
+
+#include <functional>
+#include <vector>
+
+class EntryCombo;
+class QAbstractButton;
+class QLabel;
+class QLineEdit;
+
+// What the views and their rules reach of the program.
+struct FormContext {
+    const ProgramFolder& folder;
+    PrintDevice& device;
+};
+
+// A view whose widgets are each bound to one member of a tab's values. An edit is written into its member and told by
+// `edited`; the rule then changes the values, and showValues() brings them to the screen with signals blocked, so a
+// rule runs once for each new text. The values must outlive the view. Every widget's objectName is its control's name.
+class BoundView : public QWidget {
+    Q_OBJECT
+public:
+    explicit BoundView(const FormContext& context, QWidget* parent = nullptr) : QWidget(parent), context_(context) {}
+
+    void showValues();
+
+Q_SIGNALS:
+    // The user (or a test) changed the control of this name; its member already holds the new value.
+    void edited(const QString& name);
+
+protected:
+    QLineEdit* bindText(QString& value, const char* name, const char* tooltip = "");
+    EntryCombo* bindCombo(QString& value, const QStringList& entries, const char* name, const char* tooltip = "");
+    QLabel* bindLabel(const QString& value, const char* name, const char* tooltip = "");
+    QAbstractButton* bindCheck(bool& value, const char* name, const QString& caption, const char* tooltip = "");
+    // An option button of a group; `isThis` and `choose` are its two directions.
+    QAbstractButton* bindOption(const char* name, const QString& caption, std::function<bool()> isThis,
+                                std::function<void()> choose);
+    // Runs whenever the values are shown.
+    void onShow(std::function<void()> show);
+    // Shows or hides the named widgets of this view.
+    void setShown(std::initializer_list<const char*> names, bool shown);
+
+    const FormContext& context() const { return context_; }
+
+    static void setName(QWidget* widget, const char* name, const char* tooltip = "");
+
+private:
+    FormContext context_;
+    std::vector<std::function<void()>> shows_;
+};

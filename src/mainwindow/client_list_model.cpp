@@ -1,0 +1,295 @@
+#include "mainwindow/client_list_model.h"
+
+#include "mainwindow/hungarian_order.h"
+#include "records/record_file.h"
+#include "records/windows1250.h"
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+#include <memory>
+#include <numeric>
+
+namespace {
+
+// A field's bytes up to the first NUL.
+template<std::size_t n>
+QByteArrayView storedBytes(const Text<n>& field) {
+    const void* nul = std::memchr(field.data(), '\0', n);
+    return {field.data(), nul == nullptr ? field.data() + n : static_cast<const char*>(nul)};
+}
+
+QByteArrayView withoutBlanksBehind(QByteArrayView text) {
+    while (text.endsWith(' '))
+        text.chop(1);
+    return text;
+}
+
+QByteArrayView withoutBlanks(QByteArrayView text) {
+    while (text.startsWith(' '))
+        text = text.sliced(1);
+    return withoutBlanksBehind(text);
+}
+
+constexpr qsizetype nameWidth = decltype(ClientRec::Nev)::width;
+constexpr std::size_t addressWidth = sizeof(ClientRec::Irsz) + sizeof(ClientRec::Helyseg) + sizeof(ClientRec::Cim) + 3;
+
+// The address column as bytes: what it shows, but for the blanks behind it.
+class AddressBytes {
+public:
+    explicit AddressBytes(const ClientRec& client) {
+        add(storedBytes(client.Irsz));
+        add(" ");
+        add(withoutBlanks(storedBytes(client.Helyseg)));
+        add(", ");
+        add(withoutBlanksBehind(storedBytes(client.Cim)));
+    }
+    QByteArrayView view() const { return {bytes_.data(), used_}; }
+
+private:
+    void add(QByteArrayView part) { used_ = std::copy(part.begin(), part.end(), used_); }
+
+    std::array<char, addressWidth> bytes_;
+    char* used_ = bytes_.data();
+};
+
+// Looks for a text in names whatever the case: from window to window, by the step that the byte at the window's end
+// allows, so that most bytes of a name are never looked at.
+class NameFinder {
+public:
+    // 1 to nameWidth bytes.
+    explicit NameFinder(QByteArrayView wanted) : behind_(wanted.size() - 1) {
+        for (std::size_t byte = 0; byte < bytes_.size(); ++byte)
+            bytes_[byte] = {windows1250::fold(static_cast<char>(byte)), static_cast<std::uint8_t>(wanted.size())};
+        std::transform(wanted.begin(), wanted.end(), wanted_.begin(), windows1250::fold);
+        for (qsizetype i = 0; i < behind_; ++i)
+            for (Byte& byte : bytes_)
+                if (byte.folded == wanted_[static_cast<std::size_t>(i)])
+                    byte.step = static_cast<std::uint8_t>(behind_ - i);
+    }
+
+    bool isIn(QByteArrayView name) const {
+        for (qsizetype at = behind_; at < name.size(); at += of(name[at]).step)
+            if (endsAt(name.begin() + at)) return true;
+        return false;
+    }
+
+private:
+    struct Byte {
+        char folded;
+        std::uint8_t step;
+    };
+    const Byte& of(char byte) const { return bytes_[static_cast<unsigned char>(byte)]; }
+    bool endsAt(const char* end) const {
+        for (qsizetype i = behind_; i >= 0; --i, --end)
+            if (of(*end).folded != wanted_[static_cast<std::size_t>(i)]) return false;
+        return true;
+    }
+
+    std::array<Byte, 256> bytes_;
+    std::array<char, nameWidth> wanted_{};
+    qsizetype behind_; // bytes of the window before its last one
+};
+
+// One row's place in a sort. Most comparisons end at the first eight bytes of the key, which lie at hand.
+struct SortEntry {
+    std::uint64_t keyHead;
+    std::uint32_t key; // where the key begins
+    int recordNumber;
+};
+
+std::uint64_t headOf(const char* key) {
+    std::uint64_t head = 0;
+    for (int shift = 56; shift >= 0 && *key != '\0'; shift -= 8)
+        head |= std::uint64_t{static_cast<unsigned char>(*key++)} << shift;
+    return head;
+}
+
+// Negative, zero or positive, as for strcmp.
+int compareKeys(const SortEntry& a, const SortEntry& b, const char* keys) {
+    if (a.keyHead != b.keyHead) return a.keyHead < b.keyHead ? -1 : 1;
+    return std::strcmp(keys + a.key, keys + b.key);
+}
+
+} // namespace
+
+void ClientListModel::Beolvas(const ProgramFolder& folder) {
+    refill(folder, Numbers::padded, [this] { return allRows(); });
+}
+
+void ClientListModel::cmdBeolvas_Click(const ProgramFolder& folder) {
+    refill(folder, Numbers::bare, [this] { return allRows(); });
+}
+
+void ClientListModel::search(const ProgramFolder& folder, QStringView text) {
+    refill(folder, Numbers::bare, [&] { return rowsWithName(text); });
+}
+
+template<class Choose>
+void ClientListModel::refill(const ProgramFolder& folder, Numbers numbers, Choose choose) {
+    beginResetModel();
+    clients_ = {}; // so that old and new file are never in memory at once
+    clients_ = RecordFile<ClientRec>(folder).readAll();
+    numbers_ = numbers;
+    rows_ = choose();
+    sortRows();
+    endResetModel();
+}
+
+ClientListModel::Rows ClientListModel::allRows() const {
+    Rows rows(static_cast<std::size_t>(clients_.size()) / sizeof(ClientRec));
+    std::iota(rows.begin(), rows.end(), 1);
+    return rows;
+}
+
+ClientListModel::Rows ClientListModel::rowsWithName(QStringView text) const {
+    const QByteArray wanted = windows1250::encode(trimBlanks(text));
+    if (wanted.isEmpty()) return allRows();
+    // No name is longer, and none holds a letter from outside the code page.
+    if (wanted.size() > nameWidth || wanted.count('?') != text.count(u'?')) return {};
+    const NameFinder finder(wanted);
+    Rows rows;
+    for (const int number : allRows())
+        if (finder.isIn(storedBytes(client(number).Nev))) rows.push_back(number);
+    return rows;
+}
+
+void ClientListModel::setSort(int column, Qt::SortOrder order) {
+    Q_EMIT layoutAboutToBeChanged({}, VerticalSortHint);
+    const QModelIndexList before = persistentIndexList();
+    std::vector<int> clients;
+    clients.reserve(static_cast<std::size_t>(before.size()));
+    for (const QModelIndex& index : before)
+        clients.push_back(recordNumber(index.row()));
+
+    sort_ = Sort{column, order};
+    sortRows();
+
+    if (!before.isEmpty()) {
+        std::vector<int> rowOfRecord(allRows().size() + 1, -1);
+        for (std::size_t row = 0; row < rows_.size(); ++row)
+            rowOfRecord[static_cast<std::size_t>(rows_[row])] = static_cast<int>(row);
+        QModelIndexList after;
+        after.reserve(before.size());
+        for (qsizetype i = 0; i < before.size(); ++i)
+            after.append(
+                index(rowOfRecord[static_cast<std::size_t>(clients[static_cast<std::size_t>(i)])], before[i].column()));
+        changePersistentIndexList(before, after);
+    }
+    Q_EMIT layoutChanged({}, VerticalSortHint);
+}
+
+void ClientListModel::sortRows() {
+    if (!sort_) return;
+    const std::size_t room = hungarian_order::keyRoom(sort_->column == Nev ? std::size_t{nameWidth} : addressWidth);
+    const auto keys = std::make_unique_for_overwrite<char[]>(rows_.size() * room);
+    std::vector<SortEntry> entries;
+    entries.reserve(rows_.size());
+    char* end = keys.get();
+    for (const int number : rows_) {
+        char* const key = end;
+        end = writeSortKey(number, key);
+        entries.push_back({headOf(key), static_cast<std::uint32_t>(key - keys.get()), number});
+    }
+    const bool descending = sort_->order == Qt::DescendingOrder;
+    std::sort(entries.begin(), entries.end(), [&keys, descending](const SortEntry& a, const SortEntry& b) {
+        const int order = compareKeys(a, b, keys.get());
+        if (order == 0) return a.recordNumber < b.recordNumber;
+        return descending ? order > 0 : order < 0;
+    });
+    std::transform(entries.begin(), entries.end(), rows_.begin(), [](const SortEntry& e) { return e.recordNumber; });
+}
+
+char* ClientListModel::writeSortKey(int recordNumber, char* to) const {
+    switch (sort_->column) {
+    case Nev:
+        return hungarian_order::writeKey(withoutBlanksBehind(storedBytes(client(recordNumber).Nev)), to);
+    case Cim:
+        return hungarian_order::writeKey(AddressBytes(client(recordNumber)).view(), to);
+    default:
+        for (const QChar digit : numberText(recordNumber))
+            *to++ = digit.toLatin1();
+        *to++ = '\0';
+        return to;
+    }
+}
+
+void ClientListModel::removeRows(QList<int> rows) {
+    std::sort(rows.begin(), rows.end());
+    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+    if (rows.isEmpty()) return;
+    // A block is taken out in place, so that the view stays where it is; scattered rows in one go, since telling of
+    // each of them would grow with their square.
+    const bool block = rows.last() - rows.first() + 1 == rows.size();
+    if (block)
+        beginRemoveRows({}, rows.first(), rows.last());
+    else
+        beginResetModel();
+    auto next = rows.cbegin();
+    int row = 0;
+    rows_.erase(std::remove_if(rows_.begin(), rows_.end(),
+                               [&](int) {
+                                   const bool out = next != rows.cend() && *next == row++;
+                                   if (out) ++next;
+                                   return out;
+                               }),
+                rows_.end());
+    if (block)
+        endRemoveRows();
+    else
+        endResetModel();
+}
+
+int ClientListModel::rowOf(int recordNumber) const {
+    const auto found = std::find(rows_.begin(), rows_.end(), recordNumber);
+    return found == rows_.end() ? -1 : static_cast<int>(found - rows_.begin());
+}
+
+int ClientListModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(rows_.size());
+}
+
+int ClientListModel::columnCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : 3; }
+
+QVariant ClientListModel::data(const QModelIndex& index, int role) const {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
+    if (role == Qt::DisplayRole) return text(recordNumber(index.row()), index.column());
+    if (role == Qt::TextAlignmentRole && index.column() == rec) return int(Qt::AlignRight | Qt::AlignVCenter);
+    return {};
+}
+
+QVariant ClientListModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    static const std::array<QString, 3> names{QStringLiteral("Név"), QStringLiteral("Cím"), QStringLiteral("rec")};
+    if (orientation != Qt::Horizontal || section < 0 || section > rec) return {};
+    if (role == Qt::DisplayRole) return names[static_cast<std::size_t>(section)];
+    if (role == Qt::TextAlignmentRole) return int((section == rec ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+    return {};
+}
+
+QString ClientListModel::text(int recordNumber, int column) const {
+    const ClientRec& shown = client(recordNumber);
+    switch (column) {
+    case Nev:
+        return shown.Nev.trimmed();
+    case Cim:
+        return shown.Irsz.stored() + u' ' + shown.Helyseg.trimmed() + QStringLiteral(", ") + shown.Cim.stored();
+    default:
+        return numberText(recordNumber);
+    }
+}
+
+QString ClientListModel::numberText(int recordNumber) const {
+    const QString digits = QString::number(recordNumber);
+    return numbers_ == Numbers::padded ? digits.rightJustified(6) : digits;
+}
+
+// The bytes are the record: its members have no alignment and no representation of their own.
+const ClientRec& ClientListModel::client(int recordNumber) const {
+    return reinterpret_cast<const ClientRec*>(clients_.constData())[recordNumber - 1];
+}
+
+ButtonRule buttonRule(int selectedRows, int tab) {
+    constexpr int labelTab = 4;
+    if (selectedRows < 2 || tab == labelTab) return {};
+    return {true, QString::number(selectedRows)};
+}

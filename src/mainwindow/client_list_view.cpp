@@ -1,0 +1,56 @@
+#include "mainwindow/client_list_view.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+#include <algorithm>
+
+ClientListView::ClientListView(QWidget* parent) : QTreeView(parent) {
+    setObjectName(QStringLiteral("ListView1"));
+    setToolTip(QStringLiteral("''Delete\" -  kijelöltek törlése a listából").toHtmlEscaped());
+    setSelectionMode(ExtendedSelection);
+    setSelectionBehavior(SelectRows);
+    setRootIsDecorated(false);
+    setUniformRowHeights(true); // asks one row for its height, not every one of 300,000
+    setAlternatingRowColors(true);
+    setAllColumnsShowFocus(true);
+    setEditTriggers(NoEditTriggers);
+    header()->setSectionsClickable(true);
+    header()->setSortIndicatorShown(false);
+    header()->setStretchLastSection(false);
+}
+
+QList<int> ClientListView::selectedRows() const {
+    QList<int> rows;
+    for (const QItemSelectionRange& range : selectionModel()->selection())
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            rows.append(row);
+    std::sort(rows.begin(), rows.end());
+    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+    return rows;
+}
+
+void ClientListView::selectRow(int row) {
+    const QModelIndex index = model()->index(row, 0);
+    selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    scrollTo(index);
+}
+
+void ClientListView::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Delete) {
+        Q_EMIT deletePressed();
+        return;
+    }
+    const QModelIndex before = currentIndex();
+    const QItemSelection selected = selectionModel()->selection();
+    QTreeView::keyPressEvent(event);
+    const bool changed = currentIndex() != before || selectionModel()->selection() != selected;
+    if (changed && currentIndex().isValid()) Q_EMIT rowClicked(currentIndex().row());
+}
+
+void ClientListView::mouseReleaseEvent(QMouseEvent* event) {
+    QTreeView::mouseReleaseEvent(event);
+    const QModelIndex index = indexAt(event->position().toPoint());
+    if (event->button() == Qt::LeftButton && index.isValid()) Q_EMIT rowClicked(index.row());
+}

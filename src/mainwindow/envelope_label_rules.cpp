@@ -1,0 +1,126 @@
+#include "mainwindow/envelope_label_rules.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr int sheetWidthMm = 210;
+constexpr int sheetHeightMm = 297;
+
+QString placeNumber(std::size_t place) { return QString::number(place + 1); }
+
+void freePlace(LabelTab& tab, std::size_t place) {
+    tab.chkCimke1[place] = false;
+    tab.cimkeRekord[place] = 0;
+    tab.captions[place] = placeNumber(place);
+}
+
+QString unlessZero(const QString& shown, const QString& fallback) {
+    return shown == QStringLiteral("0") ? fallback : shown;
+}
+
+// One of `parts` equal parts of a side of the sheet, to a ten-thousandth of a mm.
+QString partOf(int sideMm, int parts) {
+    return Cur::fromTenThousandths((std::int64_t{sideMm} * 10000 + parts / 2) / parts).text();
+}
+
+// Lays the ticks out by the boxes. Counts beyond the given ones leave the shown label size alone, as few rows do.
+void layOut(LabelTab& tab, int mostColumns, int mostRows) {
+    tab.gridColumns = std::max<int>(0, leadingI16(tab.txtOszlop));
+    tab.gridRows = std::max<int>(0, leadingI16(tab.txtSor));
+    for (std::size_t place = 0; place < tab.captions.size(); ++place)
+        if (tab.cimkeRekord[place] == 0) tab.captions[place] = placeNumber(place);
+    if (tab.gridColumns >= 1 && tab.gridColumns <= mostColumns) tab.txtSzeles = partOf(sheetWidthMm, tab.gridColumns);
+    if (tab.gridRows >= 3 && tab.gridRows <= mostRows) tab.txtMagas = partOf(sheetHeightMm, tab.gridRows);
+}
+
+// A box that must hold a number and nothing else, with a point or a comma.
+std::optional<Cur> decimal(const QString& box) {
+    const QString text = trimBlanks(box).toString().replace(u',', u'.');
+    const QString digits = text.startsWith(u'-') ? text.mid(1) : text;
+    const bool isNumber =
+        std::any_of(digits.begin(), digits.end(), [](QChar c) { return c >= u'0' && c <= u'9'; }) &&
+        std::all_of(digits.begin(), digits.end(), [](QChar c) { return c == u'.' || (c >= u'0' && c <= u'9'); }) &&
+        digits.count(u'.') <= 1;
+    return isNumber ? std::optional(Cur::fromText(text)) : std::nullopt;
+}
+
+Message refusal(const QString& text) { return {Icon::information, QStringLiteral("Figyelem!"), text}; }
+
+} // namespace
+
+void showClient(EnvelopeTab& tab, const ClientRec& client) {
+    tab.txtBoritekCimzettNev = client.Nev.trimmed();
+    tab.txtBoritekCimzettNev2 = client.Nev2.trimmed();
+    tab.txtBoritekCimzettCim1 = client.Helyseg.trimmed();
+    tab.txtBoritekCimzettCim2 = client.Cim.trimmed();
+    tab.txtBoritekCimzettIrSzam = client.Kulfoldi ? QString() : client.Irsz.stored();
+}
+
+void reload(EnvelopeTab& tab, const boritek& set) {
+    tab.txtBoritekFeladoNev = set.txtBoritekFeladoNev.trimmed();
+    tab.txtBoritekFeladoCim1 = set.txtBoritekFeladoCim1.trimmed();
+    tab.txtBoritekFeladoCim2 = set.txtBoritekFeladoCim2.trimmed();
+    tab.txtBoritekFeladoIrSzam = set.txtBoritekFeladoIrSzam.trimmed();
+}
+
+LabelGrid labelGrid(const LabelTab& tab) { return {tab.gridColumns, tab.gridRows}; }
+
+void showClient(LabelTab& tab, const ClientRec& client) {
+    tab.lbNev1 = client.Nev.stored();
+    tab.lbNev2 = client.Nev2.stored();
+    tab.lbHelyseg = client.Helyseg.stored();
+    tab.lbCim = client.Cim.stored();
+    tab.lbIrsz = client.Irsz.stored();
+    if (leadingNumber(tab.lbIrsz) == 0) tab.lbIrsz.clear();
+}
+
+void showSheet(LabelTab& tab, const CimkeSetup& set) {
+    tab.txtLeft = unlessZero(set.txtLeft.text(), QStringLiteral("5"));
+    tab.txtTop = unlessZero(set.txtTop.text(), QStringLiteral("5"));
+    tab.txtOszlop = unlessZero(QString::number(set.txtOszlop), QStringLiteral("2"));
+    tab.txtSor = unlessZero(QString::number(set.txtSor), QStringLiteral("6"));
+    tab.txtSzeles = set.txtSzeles.text();
+    tab.txtMagas = set.txtMagas.text();
+    tab.lbKinyomottCimkeNum = QString::number(set.lbKinyomottCimkeNum);
+}
+
+void layOutSheet(LabelTab& tab) { layOut(tab, 3, 8); }
+
+std::optional<Message> cmdCimkeMeretRogzites_Click(LabelTab& tab, CimkeSetup& set) {
+    clearCells(tab);
+    // The limits are 4 and 10, the 40 places that there are, whatever the messages count.
+    const std::int16_t columns = leadingI16(tab.txtOszlop);
+    const std::int16_t rows = leadingI16(tab.txtSor);
+    if (columns > 4) return refusal(QStringLiteral("Az oszlopok száma nem lehet több HÁROMNÁL!"));
+    if (rows > 10) return refusal(QStringLiteral("A sorok száma nem lehet több NYOLCNÁL!"));
+    layOut(tab, 4, 10);
+    const auto left = decimal(tab.txtLeft);
+    const auto top = decimal(tab.txtTop);
+    const auto width = decimal(tab.txtSzeles);
+    const auto height = decimal(tab.txtMagas);
+    if (!left || !top || !width || !height)
+        return refusal(QStringLiteral("A cimkék helye és mérete csak szám lehet (mm)!"));
+    set.txtLeft = *left;
+    set.txtTop = *top;
+    set.txtOszlop = columns;
+    set.txtSor = rows;
+    set.txtSzeles = *width;
+    set.txtMagas = *height;
+    return std::nullopt;
+}
+
+void dropClient(LabelTab& tab, int recordNumber) {
+    for (std::size_t place = 0; place < tab.cimkeRekord.size(); ++place) {
+        int& client = tab.cimkeRekord[place];
+        if (client == recordNumber)
+            freePlace(tab, place);
+        else if (client > recordNumber)
+            --client;
+    }
+}
+
+void clearCells(LabelTab& tab) {
+    for (std::size_t place = 0; place < tab.cimkeRekord.size(); ++place)
+        freePlace(tab, place);
+}

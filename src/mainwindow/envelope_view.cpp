@@ -1,0 +1,191 @@
+#include "mainwindow/envelope_label_rules.h"
+#include "mainwindow/form_views.h"
+
+#include <QCheckBox>
+#include <QFormLayout>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+namespace {
+
+struct TypeRow {
+    EnvelopeType type;
+    const char* option;
+    const char* caption;
+    const char* picture;
+    const char* sampleName;
+    QSizeF mm;
+    QPointF sender, addressee; // first lines on the picture, mm
+};
+
+const TypeRow types[] = {
+    {EnvelopeType::C6,
+     "OpB1",
+     "C6 normál boríték (162 x 114 mm)",
+     "BoritekC6.jpg",
+     "C6 Normál boríték",
+     {162, 114},
+     {8, 8},
+     {84, 58}},
+    {EnvelopeType::C5,
+     "OpB2",
+     "C5 boríték (229 x 162 mm)",
+     "BoritekC5.jpg",
+     "C5 boríték",
+     {229, 162},
+     {10, 10},
+     {125, 88}},
+    {EnvelopeType::C56,
+     "OpB3",
+     "C5/6 csekk boríték (229 x 114 mm)",
+     "BoritekC56.jpg",
+     "C5/6 csekk boríték",
+     {229, 114},
+     {10, 8},
+     {125, 56}},
+};
+
+const TypeRow& rowOf(EnvelopeType type) { return types[static_cast<int>(type) - 1]; }
+
+} // namespace
+
+EnvelopeView::EnvelopeView(EnvelopeTab& tab, const FormContext& context) : FormView(context, {162, 114}), tab_(tab) {
+    page()->setObjectName(QStringLiteral("Frame3"));
+    addLines("frameFelado",
+             {{tab.txtBoritekFeladoNev, "txtBoritekFeladoNev", "Feladó neve", &tab.chkFKFNev, "chkFKFNev"},
+              {tab.txtBoritekFeladoCim1, "txtBoritekFeladoCim1", "Feladó helysége", &tab.chkFKFCim1, "chkFKFCim1"},
+              {tab.txtBoritekFeladoCim2, "txtBoritekFeladoCim2", "Feladó címe", &tab.chkFKFCim2, "chkFKFCim2"},
+              {tab.txtBoritekFeladoIrSzam, "txtBoritekFeladoIrSzam", "Feladó irányítószáma", &tab.chkFKFIrsz,
+               "chkFKFIrsz"}});
+    addLines(
+        "frameCimzett",
+        {{tab.txtBoritekCimzettNev, "txtBoritekCimzettNev", "Címzett neve", &tab.chkFKCNev, "chkFKCNev"},
+         {tab.txtBoritekCimzettNev2, "txtBoritekCimzettNev2", "Címzett második neve", &tab.chkFKCNev2, "chkFKCNev2"},
+         {tab.txtBoritekCimzettCim1, "txtBoritekCimzettCim1", "Címzett helysége", &tab.chkFKCCim1, "chkFKCCim1"},
+         {tab.txtBoritekCimzettCim2, "txtBoritekCimzettCim2", "Címzett címe", &tab.chkFKCCim2, "chkFKCCim2"},
+         {tab.txtBoritekCimzettIrSzam, "txtBoritekCimzettIrSzam", "Címzett irányítószáma", &tab.chkFKCIrsz,
+          "chkFKCIrsz"}});
+    addTexts({{tab.txtFelado5mezo, "txtFelado5mezo", {}, "Feladó alá szabadon írható szöveg..."}});
+    buildSide();
+    onShow([this] { placeForType(); });
+    connect(this, &FormView::edited, this, [this] { showValues(); });
+}
+
+// A block of text lines, each with the tick that makes it bold.
+void EnvelopeView::addLines(const char* name, std::initializer_list<Line> lines) {
+    auto* block = new QWidget;
+    block->setObjectName(QLatin1String(name));
+    auto* grid = new QGridLayout(block);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setSpacing(1);
+    for (const Line& line : lines) {
+        const int row = grid->rowCount();
+        QLineEdit* text = bindText(line.value, line.name, line.tooltip);
+        text->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+        QAbstractButton* bold = bindCheck(*line.bold, line.boldName, QString(), "Kipipálva félkövér nyomtatás...");
+        bold->setAccessibleName(QString::fromUtf8(line.tooltip) + QStringLiteral(" félkövér"));
+        bold->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Ignored);
+        grid->addWidget(text, row, 0);
+        grid->addWidget(bold, row, 1);
+        onShow([text, &isBold = *line.bold] {
+            QFont font; // the weight alone: the size stays that of the page
+            font.setBold(isBold);
+            text->setFont(font);
+        });
+    }
+    page()->place(block, {});
+}
+
+// Options, sample and picture controls beside the envelope.
+void EnvelopeView::buildSide() {
+    auto* side = new QVBoxLayout;
+    auto* typeFrame = new QGroupBox(QStringLiteral("Boríték típusa"));
+    typeFrame->setObjectName(QStringLiteral("Frame2"));
+    auto* typeLayout = new QVBoxLayout(typeFrame);
+    for (const TypeRow& row : types)
+        typeLayout->addWidget(bindOption(
+            row.option, QString::fromUtf8(row.caption), [this, &row] { return tab_.type == row.type; },
+            [this, &row] { tab_.type = row.type; }));
+    side->addWidget(typeFrame);
+
+    auto* sampleFrame = new QGroupBox(QStringLiteral("Boríték minta"));
+    sampleFrame->setObjectName(QStringLiteral("Frame4"));
+    auto* sampleLayout = new QHBoxLayout(sampleFrame);
+    auto* sample = new QFrame;
+    sample->setObjectName(QStringLiteral("BoritekMinta"));
+    sample->setFrameStyle(QFrame::Box | QFrame::Plain);
+    sample->setStyleSheet(QStringLiteral("QFrame#BoritekMinta { background: white; }"));
+    auto* sizes = new QVBoxLayout;
+    auto* typeName = new QLabel;
+    typeName->setObjectName(QStringLiteral("Label3"));
+    auto* width = new QLabel;
+    width->setObjectName(QStringLiteral("lbBoritekSzeles"));
+    auto* height = new QLabel;
+    height->setObjectName(QStringLiteral("lbBoritekMagas"));
+    auto* sizeLine = new QHBoxLayout;
+    for (QWidget* widget : std::initializer_list<QWidget*>{width, new QLabel(QStringLiteral("x")), height})
+        sizeLine->addWidget(widget);
+    sizeLine->addStretch();
+    sizes->addWidget(typeName);
+    sizes->addLayout(sizeLine);
+    sampleLayout->addWidget(sample);
+    sampleLayout->addLayout(sizes, 1);
+    side->addWidget(sampleFrame);
+    onShow([this, sample, typeName, width, height] {
+        const TypeRow& row = rowOf(tab_.type);
+        sample->setFixedSize((row.mm * 10.0 / 15.0).toSize()); // 10 twips a millimetre, 15 twips a pixel
+        typeName->setText(QString::fromUtf8(row.sampleName));
+        width->setText(QStringLiteral("%1 mm").arg(row.mm.width()));
+        height->setText(QStringLiteral("%1 mm").arg(row.mm.height()));
+    });
+
+    side->addWidget(bindCheck(tab_.chkFelado, "chkFelado", QStringLiteral("Feladó nyomtatása")));
+    side->addWidget(bindCheck(tab_.chkCimzett, "chkCimzett", QStringLiteral("Címzett nyomtatása")));
+    side->addWidget(bindCheck(tab_.chkKepPrint, "chkKepPrint", QStringLiteral("Kép nyomtatása")));
+
+    auto* pictureFrame = new QGroupBox(QStringLiteral("Kép helyzete és mérete (mm)"));
+    pictureFrame->setObjectName(QStringLiteral("Frame5"));
+    auto* pictureLayout = new QFormLayout(pictureFrame);
+    auto* left = new QLabel;
+    left->setObjectName(QStringLiteral("lbXpoz"));
+    left->setToolTip(QStringLiteral("A kép helyzete a bal margótól"));
+    auto* top = new QLabel;
+    top->setObjectName(QStringLiteral("lbYpoz"));
+    top->setToolTip(QStringLiteral("A kép helyzete a felső margótól."));
+    pictureLayout->addRow(QStringLiteral("Bal margó"), left);
+    pictureLayout->addRow(QStringLiteral("Felső margó"), top);
+    auto* find = new QPushButton(QStringLiteral("Kép keresés"));
+    find->setObjectName(QStringLiteral("cmdKepek"));
+    find->setToolTip(QStringLiteral("Kép keresése saját gépen..."));
+    find->setEnabled(false);
+    auto* save = new QPushButton(QStringLiteral("Kép mentése"));
+    save->setObjectName(QStringLiteral("cmdKepMentese"));
+    save->setEnabled(false);
+    pictureLayout->addRow(find, save);
+    side->addWidget(pictureFrame);
+    side->addStretch();
+    onShow([this, left, top, pictureFrame] {
+        left->setText(tab_.lbXpoz);
+        top->setText(tab_.lbYpoz);
+        pictureFrame->setVisible(tab_.chkKepPrint);
+    });
+    static_cast<QHBoxLayout*>(layout())->addLayout(side);
+}
+
+void EnvelopeView::placeForType() {
+    const TypeRow& row = rowOf(tab_.type);
+    page()->setPicture(QString::fromLatin1(row.picture), row.mm);
+    const double scale = row.mm.width() / 162.0; // the same size on the screen whatever the envelope
+    const auto put = [&](const char* name, QPointF at, QSizeF size, double letterMm) {
+        auto* widget = findChild<QWidget*>(QLatin1String(name));
+        page()->place(widget, {at, size * scale}, letterMm * scale);
+    };
+    put("frameFelado", row.sender, {62, 18}, 3);
+    put("txtFelado5mezo", row.sender + QPointF(0, 18.5 * scale), {57, 4.4}, 3);
+    put("frameCimzett", row.addressee, {72, 26}, 3.4);
+    setShown({"frameFelado"}, tab_.chkFelado);
+    setShown({"frameCimzett"}, tab_.chkCimzett);
+}

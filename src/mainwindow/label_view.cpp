@@ -1,0 +1,205 @@
+#include "mainwindow/entry_combo.h"
+#include "mainwindow/envelope_label_rules.h"
+#include "mainwindow/form_views.h"
+#include "records/record_file.h"
+#include "settings/envelope_label_settings.h"
+
+#include <QCheckBox>
+#include <QFormLayout>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+namespace {
+
+QGroupBox* frame(const char* name, const char* caption) {
+    auto* box = new QGroupBox(QString::fromUtf8(caption));
+    box->setObjectName(QLatin1String(name));
+    return box;
+}
+
+QByteArray indexed(const char* name, int index) { return QByteArray(name) + '_' + QByteArray::number(index); }
+
+} // namespace
+
+LabelView::LabelView(LabelTab& tab, const FormContext& context) : BoundView(context), tab_(tab) {
+    for (int size = 10; size <= 24; size += 2)
+        sizes_ << QString::number(size);
+    auto* grid = new QGridLayout(this);
+    grid->addWidget(buildFonts(), 0, 0);
+    grid->addWidget(buildSheet(), 1, 0);
+    grid->addWidget(buildGrid(), 0, 1, 3, 1);
+    grid->addWidget(buildPreview(), 0, 2);
+    grid->addWidget(buildCustom(), 1, 2, 2, 1);
+    auto* note = new QLabel(QStringLiteral(
+        "A nyomtatni kívánt cimké(ke)t ki kell pipálni. A nyomtatáskor csak a kipipált cimkék kerülnek nyomtatásra. "
+        "Oszlop vagy sor állítás után meg kell nyomni a Rögzítés gombot. A cimkék méretét a program automatikusan "
+        "kiszámolja a sor és oszlop adatokból. "));
+    note->setObjectName(QStringLiteral("Label5"));
+    note->setWordWrap(true);
+    note->setAlignment(Qt::AlignTop);
+    grid->addWidget(note, 2, 0);
+    grid->setColumnStretch(1, 1);
+    grid->setRowStretch(2, 1);
+    onShow([this] { showGrid(); });
+    connect(this, &BoundView::edited, this, [this] { showValues(); });
+}
+
+void LabelView::offerFonts(const QStringList& fonts) {
+    fonts_ = fonts;
+    showValues();
+}
+
+void LabelView::openSheet() {
+    if (readRecord<CimkeSetup>(context().folder).txtOszlop == 0)
+        cmdCimkeMeretRogzites_Click();
+    else
+        layOutSheet(tab_);
+    showValues();
+}
+
+void LabelView::cmdCimkeMeretRogzites_Click() {
+    std::optional<Message> refusal;
+    updateRecord<CimkeSetup>(context().folder,
+                             [&](CimkeSetup& set) { refusal = ::cmdCimkeMeretRogzites_Click(tab_, set); });
+    showValues();
+    if (refusal) Q_EMIT tells(*refusal);
+}
+
+void LabelView::cmbBetutipusok_Click() {
+    const bool names = updateRecord<Betutip>(context().folder, [this](Betutip& set) {
+        for (std::size_t line = 0; line < 5; ++line)
+            set.ComboBetuTipus1[line].set(tab_.ComboBetuTipus1[line]);
+    });
+    const bool sizes = updateRecord<Betumeret>(context().folder, [this](Betumeret& set) {
+        for (std::size_t line = 0; line < 5; ++line)
+            set.ComboBetuSize[line] = leadingI16(tab_.ComboBetuSize[line]);
+    });
+    if (names && sizes)
+        Q_EMIT tells(
+            {Icon::none, QStringLiteral("! Rendben !"), QStringLiteral(" \nA betűtípusok mentése megtörtént...\n ")});
+}
+
+QGroupBox* LabelView::buildFonts() {
+    QGroupBox* box = frame("Frame6", "Betűtípus és betűméret");
+    auto* grid = new QGridLayout(box);
+    auto* sample = new QLabel(QStringLiteral("Minta"));
+    sample->setObjectName(QStringLiteral("lbMinta"));
+    sample->setMinimumHeight(24);
+    for (int line = 0; line < 5; ++line) {
+        const auto index = static_cast<std::size_t>(line);
+        EntryCombo* font = bindCombo(tab_.ComboBetuTipus1[index], fonts_, indexed("ComboBetuTipus1", line));
+        EntryCombo* size = bindCombo(tab_.ComboBetuSize[index], sizes_, indexed("ComboBetuSize", line));
+        font->setMinimumContentsLength(14);
+        size->setMinimumContentsLength(2);
+        grid->addWidget(new QLabel(QStringLiteral("%1. sor").arg(line + 1)), line, 0);
+        grid->addWidget(font, line, 1);
+        grid->addWidget(size, line, 2);
+        const auto showSample = [this, index, sample] {
+            sample->setFont(
+                QFont(tab_.ComboBetuTipus1[index], std::max<int>(6, leadingI16(tab_.ComboBetuSize[index]))));
+        };
+        connect(font, &QComboBox::editTextChanged, sample, showSample);
+        connect(size, &QComboBox::editTextChanged, sample, showSample);
+    }
+    grid->addWidget(sample, 5, 0, 1, 3);
+    auto* save = new QPushButton(QStringLiteral("&Betűtípus és méret mentése"));
+    save->setObjectName(QStringLiteral("cmbBetutipusok"));
+    connect(save, &QPushButton::clicked, this, &LabelView::cmbBetutipusok_Click);
+    grid->addWidget(save, 6, 0, 1, 3);
+    return box;
+}
+
+QGroupBox* LabelView::buildSheet() {
+    QGroupBox* box = frame("Frame7", "Cimke méret beállítása");
+    auto* form = new QGridLayout(box);
+    static const QStringList columns{QStringLiteral("4"), QStringLiteral("3"), QStringLiteral("2"),
+                                     QStringLiteral("1")};
+    static const QStringList rows{QStringLiteral("10"), QStringLiteral("9"), QStringLiteral("8"), QStringLiteral("7"),
+                                  QStringLiteral("6"),  QStringLiteral("5"), QStringLiteral("4"), QStringLiteral("3")};
+    const auto add = [form](int row, int column, const char* caption, QWidget* field) {
+        form->addWidget(new QLabel(QString::fromUtf8(caption)), row, column);
+        form->addWidget(field, row, column + 1);
+    };
+    add(0, 0, "Oszlop:", bindCombo(tab_.txtOszlop, columns, "txtOszlop"));
+    add(0, 2, "Sor:", bindCombo(tab_.txtSor, rows, "txtSor"));
+    add(1, 0, "Szélesség:", bindText(tab_.txtSzeles, "txtSzeles", "A cimke szélessége, mm"));
+    add(1, 2, "Magasság:", bindText(tab_.txtMagas, "txtMagas", "A cimke magassága, mm"));
+    add(2, 0,
+        "Balról:", bindText(tab_.txtLeft, "txtLeft", "A név első karakterének pozíciója az A4-es lap bal szélétől."));
+    add(2, 2, "Fentről:", bindText(tab_.txtTop, "txtTop", "A név első karakterének pozíciója az A4-es lap tetejétől."));
+    auto* store = new QPushButton(QStringLiteral("&Rögzítés"));
+    store->setObjectName(QStringLiteral("cmdCimkeMeretRogzites"));
+    connect(store, &QPushButton::clicked, this, &LabelView::cmdCimkeMeretRogzites_Click);
+    form->addWidget(store, 3, 0, 1, 4);
+    form->addWidget(new QLabel(QStringLiteral("Eddig kinyomtatott cimkék száma: ")), 4, 0, 1, 3);
+    form->addWidget(bindLabel(tab_.lbKinyomottCimkeNum, "lbKinyomottCimkeNum"), 4, 3);
+    return box;
+}
+
+QGroupBox* LabelView::buildGrid() {
+    QGroupBox* box = frame("Frame8", "Cimkék a lapon");
+    cells_ = new QGridLayout(box);
+    for (int cell = 0; cell < 40; ++cell) {
+        const auto index = static_cast<std::size_t>(cell);
+        QAbstractButton* tick = bindCheck(tab_.chkCimke1[index], indexed("chkCimke1", cell + 1), QString());
+        tick->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
+        // A name's '&' is a letter, not a mnemonic.
+        onShow(
+            [this, index, tick] { tick->setText(QString(tab_.captions[index]).replace(u'&', QStringLiteral("&&"))); });
+        tick->setParent(box);
+    }
+    return box;
+}
+
+void LabelView::showGrid() {
+    const LabelGrid grid = labelGrid(tab_);
+    for (int cell = 0; cell < 40; ++cell) {
+        auto* tick = findChild<QAbstractButton*>(QStringLiteral("chkCimke1_%1").arg(cell + 1));
+        tick->setVisible(cell < grid.columns * grid.rows);
+        if (grid.columns > 0) cells_->addWidget(tick, cell / grid.columns, cell % grid.columns);
+    }
+}
+
+QGroupBox* LabelView::buildPreview() {
+    QGroupBox* box = frame("Frame9", "Kijelölt Címzett a listában - Cimke minta");
+    auto* lines = new QVBoxLayout(box);
+    struct Line {
+        const QString& value;
+        const char* name;
+    };
+    const Line rows[] = {{tab_.lbNev1, "lbNev1"},
+                         {tab_.lbNev2, "lbNev2"},
+                         {tab_.lbHelyseg, "lbHelyseg"},
+                         {tab_.lbCim, "lbCim"},
+                         {tab_.lbIrsz, "lbIrsz"}};
+    std::size_t index = 0;
+    for (const Line& row : rows) {
+        QLabel* label = bindLabel(row.value, row.name);
+        onShow([this, label, line = index] {
+            const int size = leadingI16(tab_.ComboBetuSize[line]);
+            if (size > 0) label->setFont(QFont(trimBlanks(tab_.ComboBetuTipus1[line]).toString(), size));
+        });
+        lines->addWidget(label);
+        ++index;
+    }
+    lines->addStretch();
+    box->setMinimumWidth(220);
+    return box;
+}
+
+QGroupBox* LabelView::buildCustom() {
+    auto* outer = new QGroupBox;
+    outer->setFlat(true);
+    auto* layout = new QVBoxLayout(outer);
+    layout->addWidget(bindCheck(tab_.chkEgyediCimke, "chkEgyediCimke", QStringLiteral("Egyedi cimke nyomtatás")));
+    QGroupBox* box = frame("keretEgyediCimke", "Egyedi cimke");
+    auto* lines = new QVBoxLayout(box);
+    for (int line = 0; line < 5; ++line)
+        lines->addWidget(bindText(tab_.txEgyediCimke[static_cast<std::size_t>(line)], indexed("txEgyediCimke", line)));
+    layout->addWidget(box);
+    layout->addStretch();
+    onShow([this, box] { box->setVisible(tab_.chkEgyediCimke); });
+    return outer;
+}

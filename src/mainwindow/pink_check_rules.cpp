@@ -1,0 +1,72 @@
+#include "mainwindow/pink_check_rules.h"
+
+#include "mainwindow/tab_words.h"
+
+namespace {
+
+struct Party {
+    QString name, settlement, street, postcode;
+};
+
+// On the front the sender's address is one line, on the back it is in parts.
+void setSender(PinkCheckTab& tab, const Party& party, const QString& addressLine) {
+    tab.RtxNev = party.name;
+    tab.RtxCim = addressLine;
+    tab.txtNevHatul = party.name;
+    tab.txtHelysHatul = party.settlement;
+    tab.txtCimHatul = party.street;
+    tab.txtIrszHatul = party.postcode;
+}
+
+void setAddressee(PinkCheckTab& tab, const Party& party) {
+    tab.RlbNev = tab.txtNev = party.name;
+    tab.RlbHelys = tab.txtHelys = party.settlement;
+    tab.RlbCim = tab.txtCim = party.street;
+    tab.RlbIrsz = tab.txtIrsz = party.postcode;
+}
+
+QString addressLine(const Party& party) {
+    return party.postcode + u' ' + party.settlement + QStringLiteral(", ") + party.street;
+}
+
+} // namespace
+
+void RtxOsszeg_Change(PinkCheckTab& tab, const SetRcsekk& set, PrintDevice& device) {
+    const WordLines words = fitForTab(Razaz_rutin(tab.RtxOsszeg), tab.RtxOsszeg, device,
+                                      set.cmbRcsekkSzovegBetuTipus.trimmed(), set.TextRcsekkBetuMeret2);
+    tab.RtxtSzoveg21 = words.upper;
+    tab.RtxtSzoveg11 = words.lower;
+    tab.RlbOsszeg = tab.RtxOsszeg;
+    tab.lbOsszeg2 = tab.RtxOsszeg;
+    if (words.upper.isEmpty()) return;
+    // Here 1 is the upper line and 2 the lower one, against the names of the words themselves.
+    tab.RtxtSzoveg12 = words.upper;
+    tab.RtxtSzoveg22 = words.lower;
+}
+
+void opAllando_Click(PinkCheckTab& tab, const SetRcsekk& set) {
+    reload(tab, set);
+    if (tab.opAllando == FixedParty::addressee)
+        setSender(tab, {}, {});
+    else
+        setAddressee(tab, {});
+}
+
+void reload(PinkCheckTab& tab, const SetRcsekk& set) {
+    const Party fixed{set.txRcsekkNev.trimmed(), set.txRcsekkHelyseg.trimmed(), set.txRcsekkCim.trimmed(),
+                      set.txRcsekkIrszam.stored()};
+    if (tab.opAllando == FixedParty::addressee)
+        setAddressee(tab, fixed);
+    else
+        setSender(tab, fixed, addressLine(fixed));
+}
+
+void showClient(PinkCheckTab& tab, const ClientRec& client) {
+    const Party party{client.Nev.stored(), client.Helyseg.trimmed(), client.Cim.stored(), client.Irsz.stored()};
+    if (tab.opAllando == FixedParty::addressee)
+        setSender(tab, party, addressLine(party));
+    else
+        setAddressee(tab, party);
+}
+
+void cmdOldalCsere_Click(PinkCheckTab& tab) { tab.side = tab.side == Side::front ? Side::back : Side::front; }

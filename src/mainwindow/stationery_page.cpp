@@ -1,0 +1,89 @@
+#include "mainwindow/stationery_page.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+StationeryPage::StationeryPage(const ProgramFolder& folder, QSizeF sizeMm, QWidget* parent)
+    : QWidget(parent)
+    , folder_(folder)
+    , sizeMm_(sizeMm) {
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+void StationeryPage::setPicture(const QString& fileName, QSizeF sizeMm) {
+    if (fileName == fileName_ && sizeMm == sizeMm_) return;
+    fileName_ = fileName;
+    sizeMm_ = sizeMm;
+    loaded_ = false;
+    for (const Placed& placed : placed_)
+        layOut(placed);
+    update();
+}
+
+void StationeryPage::place(QWidget* child, QRectF mm, double letterMm) {
+    child->setParent(this);
+    const auto known =
+        std::find_if(placed_.begin(), placed_.end(), [child](const Placed& p) { return p.child == child; });
+    const Placed placed{child, mm, letterMm};
+    if (known == placed_.end())
+        placed_.push_back(placed);
+    else
+        *known = placed;
+    layOut(placed);
+}
+
+QSize StationeryPage::sizeHint() const { return (sizeMm_ * 3.86).toSize(); }
+
+QSize StationeryPage::minimumSizeHint() const { return (sizeMm_ * 2.4).toSize(); }
+
+double StationeryPage::pixelsPerMm() const {
+    return std::max(0.1, std::min(width() / sizeMm_.width(), height() / sizeMm_.height()));
+}
+
+QRect StationeryPage::formRect() const {
+    const QSize size = (sizeMm_ * pixelsPerMm()).toSize();
+    return {QPoint((width() - size.width()) / 2, (height() - size.height()) / 2), size};
+}
+
+void StationeryPage::layOut(const Placed& placed) const {
+    const double scale = pixelsPerMm();
+    QFont font = placed.child->font();
+    font.setPixelSize(std::max(6, static_cast<int>(std::lround(placed.letterMm * scale))));
+    placed.child->setFont(font);
+    const QRectF onPage(placed.mm.topLeft() * scale, placed.mm.size() * scale);
+    placed.child->setGeometry(onPage.translated(formRect().topLeft()).toRect());
+}
+
+void StationeryPage::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    for (const Placed& placed : placed_)
+        layOut(placed);
+}
+
+const QPixmap& StationeryPage::scaledPicture(QSize size) {
+    if (!loaded_) {
+        original_ = QImage(folder_.file(fileName_));
+        scaled_ = QPixmap();
+        loaded_ = true;
+    }
+    if (!original_.isNull() && scaled_.size() != size)
+        scaled_ = QPixmap::fromImage(original_.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    return scaled_;
+}
+
+void StationeryPage::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    const QRect form = formRect();
+    const QPixmap& picture = scaledPicture(form.size() * devicePixelRatio());
+    if (!picture.isNull()) {
+        painter.drawPixmap(form, picture);
+    } else {
+        painter.fillRect(form, Qt::white);
+        painter.setPen(Qt::gray);
+        painter.drawText(form, Qt::AlignCenter, QStringLiteral("Hiányzó kép: ") + fileName_);
+    }
+    painter.setPen(QColor(0, 0, 0, 60));
+    painter.drawRect(form.adjusted(0, 0, -1, -1));
+}

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "records/program_folder.h"
+
+#include <QPixmap>
+#include <QWidget>
+
+#include <vector>
+
+// The picture of a form with controls lying on it, all placed in millimetres of the real stationery, so that one table
+// of positions serves any window size and screen density. The form keeps its proportions. The picture is loaded when it
+// is first shown; a missing one leaves a white page with a thin frame that names the file.
+class StationeryPage : public QWidget {
+    Q_OBJECT
+public:
+    StationeryPage(const ProgramFolder& folder, QSizeF sizeMm, QWidget* parent = nullptr);
+
+    // Name of the picture in the program folder, and the true size of what it shows.
+    void setPicture(const QString& fileName, QSizeF sizeMm);
+    void setPicture(const QString& fileName) { setPicture(fileName, sizeMm_); }
+    const QString& picture() const { return fileName_; }
+
+    // Puts a child at `mm`; its letters are `letterMm` high (a 10 point letter is 3.5 mm).
+    void place(QWidget* child, QRectF mm, double letterMm = 3.2);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    struct Placed {
+        QWidget* child;
+        QRectF mm;
+        double letterMm;
+    };
+    double pixelsPerMm() const;
+    QRect formRect() const;
+    void layOut(const Placed& placed) const;
+    const QPixmap& scaledPicture(QSize size);
+
+    const ProgramFolder& folder_;
+    QSizeF sizeMm_;
+    QString fileName_;
+    QImage original_;
+    QPixmap scaled_;
+    bool loaded_ = false;
+    std::vector<Placed> placed_;
+};

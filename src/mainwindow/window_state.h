@@ -1,0 +1,22 @@
+#pragma once
+
+#include "mainwindow/client_pour.h"
+#include "settings/envelope_label_settings.h"
+#include "settings/general_settings.h"
+#include "settings/other_settings.h"
+
+// What the window remembers from one run to the next, between the records and the values of the tabs. The controls that
+// aren't on a tab (printer, list order, tab number) are the window's own.
+
+// Fields of Set.dat that a start brings back.
+void restoreTabs(FormTabs& tabs, const Set& set);
+// Bold flags of the envelope.
+void restoreBold(EnvelopeTab& tab, const boritek& set);
+// Fonts and sizes of the label lines.
+void restoreLabelFonts(LabelTab& tab, const Betutip& fonts, const Betumeret& sizes);
+// Position of the envelope's picture in whole mm, from its place on the screen; nothing is shown for 0.
+void showPicturePlacement(EnvelopeTab& tab, const Kepment& stored);
+
+// The other way, at exit; all other fields are left alone.
+void storeTabs(const FormTabs& tabs, Set& set);
+void storeBold(const EnvelopeTab& tab, boritek& set);

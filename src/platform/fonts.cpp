@@ -1,0 +1,85 @@
+#include "platform/fonts.h"
+
+#include <QFontDatabase>
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// Families of one metric: either may stand in for the other without moving a letter.
+struct Substitute {
+    QLatin1StringView asked;
+    QLatin1StringView serves;
+};
+constexpr Substitute substitutes[] = {
+    {"Arial"_L1, "Liberation Sans"_L1},
+    {"Times New Roman"_L1, "Liberation Serif"_L1},
+    {"Courier New"_L1, "Liberation Mono"_L1},
+};
+
+// Names of the Central European halves of old fonts, offered because the factory settings bear them.
+constexpr QLatin1StringView oldNames[] = {"Arial CE"_L1, "Times New Roman CE"_L1};
+
+// More fonts than any set of forms uses; beyond it the book starts anew.
+constexpr std::size_t mostFaces = 64;
+
+QString withoutTrailingBlanks(const QString& name) {
+    qsizetype length = name.size();
+    while (length > 0 && name[length - 1] == u' ')
+        --length;
+    return name.left(length);
+}
+
+QString withoutCe(const QString& name) {
+    return name.endsWith(" CE"_L1, Qt::CaseInsensitive) ? withoutTrailingBlanks(name.chopped(3)) : name;
+}
+
+FontBook::Face faceOf(const Font& font, const QString& family) {
+    QFont result(family);
+    result.setPixelSize(std::max(1, qRound(qreal(font.size) * paperUnitsPerInch / 72)));
+    result.setBold(font.bold);
+    result.setItalic(font.italic);
+    result.setHintingPreference(QFont::PreferNoHinting);
+    return {result, QFontMetricsF(result)};
+}
+
+} // namespace
+
+FontBook::FontBook() : FontBook(QFontDatabase::families()) {}
+
+FontBook::FontBook(QStringList installed) : installed_(std::move(installed)) {}
+
+std::optional<QString> FontBook::installedName(const QString& name) const {
+    const auto at = std::find_if(installed_.begin(), installed_.end(),
+                                 [&](const QString& family) { return family.compare(name, Qt::CaseInsensitive) == 0; });
+    return at == installed_.end() ? std::nullopt : std::optional(*at);
+}
+
+std::optional<QString> FontBook::familyFor(const QString& name) const {
+    const QString full = withoutTrailingBlanks(name);
+    if (const auto itself = installedName(full)) return itself;
+    const QString plain = withoutCe(full);
+    if (const auto itself = installedName(plain)) return itself;
+    for (const Substitute& substitute : substitutes)
+        if (plain.compare(substitute.asked, Qt::CaseInsensitive) == 0) return installedName(substitute.serves);
+    return std::nullopt;
+}
+
+QStringList FontBook::names() const {
+    QStringList all = installed_;
+    for (const QLatin1StringView name : oldNames)
+        if (familyFor(name) && !all.contains(name, Qt::CaseInsensitive)) all.append(name);
+    all.sort(Qt::CaseInsensitive);
+    return all;
+}
+
+const FontBook::Face& FontBook::face(const Font& font) {
+    const auto known =
+        std::find_if(faces_.begin(), faces_.end(), [&](const Entry& entry) { return entry.key == font; });
+    if (known != faces_.end()) return known->face;
+    if (faces_.size() == mostFaces) faces_.clear();
+    faces_.push_back({font, faceOf(font, familyFor(font.name).value_or(font.name))});
+    return faces_.back().face;
+}

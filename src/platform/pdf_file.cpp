@@ -1,0 +1,75 @@
+#include "platform/pdf_file.h"
+
+#include "platform/job_painter.h"
+#include "printing/print_service.h"
+
+#include <QBuffer>
+#include <QDir>
+#include <QPdfWriter>
+#include <QRegularExpression>
+#include <QSaveFile>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr qsizetype longestTitle = 80;
+
+// Box of a page in points, as wide and tall as the form really is. Its top edge stays where the writer has it, since
+// all positions count from there.
+QByteArray exactBox(const PageSetup& setup) {
+    const QPageLayout page = pageOf(setup);
+    const qreal top = page.fullRectPoints().height();
+    const QSizeF size = page.fullRect(QPageLayout::Millimeter).size() * 72 / 25.4;
+    return "0 " + QByteArray::number(top - size.height(), 'f', 4) + ' ' + QByteArray::number(size.width(), 'f', 4) +
+           ' ' + QByteArray::number(top, 'f', 0);
+}
+
+// Qt holds pages in whole points, up to 0.18 mm off. Each box is put right in its place, in the number of bytes that it
+// has, because the table at the end of the file counts them; one that doesn't fit is left as it is.
+void correctBoxes(QByteArray& pdf, const std::vector<PrintedPage>& pages) {
+    const QByteArray mark = "/MediaBox [";
+    qsizetype at = 0;
+    for (const PrintedPage& page : pages) {
+        at = pdf.indexOf(mark, at);
+        if (at < 0) return;
+        at += mark.size();
+        const QByteArray box = exactBox(page.setup);
+        const qsizetype room = pdf.indexOf(']', at) - at;
+        if (box.size() <= room) pdf.replace(at, room, box.leftJustified(room, ' '));
+    }
+}
+
+} // namespace
+
+QByteArray pdfOf(const PrintJob& job, FontBook& fonts) {
+    QByteArray pdf;
+    QBuffer buffer(&pdf);
+    buffer.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&buffer);
+    writer.setTitle(job.title);
+    paintJob(job, writer, fonts);
+    buffer.close();
+    correctBoxes(pdf, job.pages);
+    return pdf;
+}
+
+QString pdfFileName(const QString& title, const QDateTime& now) {
+    static const QRegularExpression forbidden(uR"([\x00-\x1f<>:"/\\|?*]+)"_s);
+    QString form = title.simplified().left(longestTitle);
+    form.replace(forbidden, u"-"_s);
+    const QString moment = now.toString(u"yyyy-MM-dd-HHmmss"_s);
+    return form.isEmpty() ? moment + ".pdf"_L1 : moment + u'-' + form + ".pdf"_L1;
+}
+
+QString saveNewFile(const QByteArray& bytes, const QString& folder, const QString& name) {
+    const QFileInfo wanted(folder, name);
+    QString path = wanted.filePath();
+    for (int number = 2; QFileInfo::exists(path); ++number)
+        path = wanted.path() + u'/' + wanted.completeBaseName() + u"-%1."_s.arg(number) + wanted.suffix();
+    QSaveFile file(path);
+    const bool saved =
+        QDir().mkpath(folder) && file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
+    if (!saved) throw DeviceError(482, u"A PDF fájl nem írható, nincs hozzá jog vagy betelt a lemez:\n"_s + path);
+    return path;
+}

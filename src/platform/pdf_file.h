@@ -1,0 +1,18 @@
+#pragma once
+
+#include "platform/fonts.h"
+#include "printing/print_job.h"
+
+#include <QByteArray>
+#include <QDateTime>
+
+// The job as a PDF: fonts embedded, text extractable, every page of exactly the size that was asked for. One copy,
+// whatever the job says: whoever prints the file chooses how many. DeviceError 482.
+QByteArray pdfOf(const PrintJob& job, FontBook& fonts);
+
+// "<yyyy-MM-dd>-<HHmmss>-<title>.pdf"; letters of the title that no file name may hold become '-'.
+QString pdfFileName(const QString& title, const QDateTime& now);
+
+// Writes `bytes` as a new file of the folder (made if it is missing), "name-2.pdf" and on if the name is taken, and
+// gives its path. The file is there whole or not at all: DeviceError 482.
+QString saveNewFile(const QByteArray& bytes, const QString& folder, const QString& name);

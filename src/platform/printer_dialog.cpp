@@ -1,0 +1,43 @@
+#include "platform/printer_dialog.h"
+
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QPushButton>
+#include <QSpinBox>
+
+using namespace Qt::Literals::StringLiterals;
+
+PrinterDialog::PrinterDialog(const QStringList& printers, int current, QWidget* parent)
+    : QDialog(parent)
+    , printer_(new QComboBox)
+    , copies_(new QSpinBox) {
+    setObjectName(u"printerDialog"_s);
+    setWindowTitle(u"Nyomtatás"_s);
+
+    printer_->setObjectName(u"printer"_s);
+    printer_->addItems(printers);
+    printer_->setCurrentIndex(current < printers.size() ? current : -1);
+    printer_->setMinimumContentsLength(28);
+    copies_->setObjectName(u"copies"_s);
+    copies_->setRange(1, 99);
+
+    auto* buttons = new QDialogButtonBox;
+    auto* ok = buttons->addButton(u"OK"_s, QDialogButtonBox::AcceptRole);
+    auto* cancel = buttons->addButton(u"Mégse"_s, QDialogButtonBox::RejectRole);
+    ok->setObjectName(u"ok"_s);
+    cancel->setObjectName(u"cancel"_s);
+    ok->setDefault(true);
+    ok->setEnabled(printer_->currentIndex() >= 0);
+    connect(printer_, &QComboBox::currentIndexChanged, ok, [ok](int place) { ok->setEnabled(place >= 0); });
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+
+    auto* form = new QFormLayout(this);
+    form->addRow(u"&Nyomtató:"_s, printer_);
+    form->addRow(u"&Példányszám:"_s, copies_);
+    form->addRow(buttons);
+    form->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+PrinterChoice PrinterDialog::choice() const { return {printer_->currentIndex(), copies_->value()}; }

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "platform/fonts.h"
+#include "printing/print_service.h"
+#include "records/program_folder.h"
+
+// Which devices the list holds: the printers of the system and the PDF device, or that one alone, so that nothing is
+// asked of a spooler.
+enum class Devices { system, pdfOnly };
+
+// Printing through the toolkit. The last device of the list is always "PDF fájl": it writes one file for each job into
+// the folder `nyomtatas` of the program folder, and is the default where the system has none.
+class QtPrintService : public PrintService {
+public:
+    explicit QtPrintService(const ProgramFolder& folder, Devices devices = Devices::system);
+
+    QStringList printers() override;
+    int defaultPrinter() override;
+    QStringList fonts() override;
+    bool knowsFont(const QString& name) override;
+    float textWidth(const Font& font, const QString& text) override;
+    float lineHeight(const Font& font) override;
+    // Copies go to system printers; a PDF holds the pages once. DeviceError 9, 482.
+    void deliver(const PrintJob& job, int printer) override;
+
+    // Full path of the file that the last job on the PDF device became; empty before.
+    const QString& lastPdf() const { return lastPdf_; }
+
+private:
+    void printOn(const QString& name, const PrintJob& job);
+
+    QString pdfFolder_;
+    Devices devices_;
+    QStringList printers_;
+    FontBook fonts_;
+    QString lastPdf_;
+};

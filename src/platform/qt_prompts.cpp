@@ -1,0 +1,118 @@
+#include "platform/qt_prompts.h"
+
+#include "platform/printer_dialog.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QPushButton>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+QMessageBox::Icon iconOf(Icon icon) {
+    switch (icon) {
+    case Icon::none:
+        return QMessageBox::NoIcon;
+    case Icon::information:
+        return QMessageBox::Information;
+    case Icon::question:
+        return QMessageBox::Question;
+    case Icon::warning:
+        return QMessageBox::Warning;
+    case Icon::critical:
+        return QMessageBox::Critical;
+    }
+    return QMessageBox::NoIcon;
+}
+
+void fill(QMessageBox& box, const Message& message) {
+    box.setIcon(iconOf(message.icon));
+    box.setWindowTitle(message.title);
+    // Names of clients stand in the texts, and "A<B" must not be taken for markup.
+    box.setTextFormat(Qt::PlainText);
+    box.setText(message.text);
+}
+
+// A button that its first letter presses, as in the boxes of the system.
+QPushButton* addButton(QMessageBox& box, const QString& caption, QMessageBox::ButtonRole role) {
+    QPushButton* button = box.addButton(caption, role);
+    button->setShortcut(QKeySequence(caption.left(1)));
+    return button;
+}
+
+void nameInHungarian(QFileDialog& dialog, const QString& accept) {
+    dialog.setLabelText(QFileDialog::LookIn, u"Hely:"_s);
+    dialog.setLabelText(QFileDialog::FileName, u"Fájlnév:"_s);
+    dialog.setLabelText(QFileDialog::FileType, u"Fájltípus:"_s);
+    dialog.setLabelText(QFileDialog::Accept, accept);
+    dialog.setLabelText(QFileDialog::Reject, u"Mégse"_s);
+}
+
+// Path that the user picked, empty on cancel.
+QString run(QFileDialog& dialog) {
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
+} // namespace
+
+QtPrompts::QtPrompts(QWidget* parent) : parent_(parent) {}
+
+QWidget* QtPrompts::window() const {
+    // A dialog that is open is in front of the main window, and so must be its boxes.
+    if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+    return parent_ ? parent_.data() : QApplication::activeWindow();
+}
+
+void QtPrompts::tell(const Message& message) {
+    QMessageBox box(window());
+    fill(box, message);
+    box.addButton(u"OK"_s, QMessageBox::AcceptRole);
+    box.exec();
+}
+
+Answer QtPrompts::ask(const Message& message, Answer preset) {
+    QMessageBox box(window());
+    fill(box, message);
+    QPushButton* yes = addButton(box, u"Igen"_s, QMessageBox::YesRole);
+    QPushButton* no = addButton(box, u"Nem"_s, QMessageBox::NoRole);
+    box.setDefaultButton(preset == Answer::yes ? yes : no);
+    box.setEscapeButton(no);
+    box.exec();
+    return box.clickedButton() == yes ? Answer::yes : Answer::no;
+}
+
+QString QtPrompts::openFile(const QString& title, const QString& filter) {
+    QFileDialog dialog(window(), title, QString(), filter);
+    nameInHungarian(dialog, u"Megnyitás"_s);
+    // Any name may be typed: the toolkit's own complaint about a missing file is not in Hungarian.
+    dialog.setFileMode(QFileDialog::AnyFile);
+    for (;;) {
+        const QString path = run(dialog);
+        if (path.isEmpty() || QFileInfo(path).isFile()) return path;
+        tell({Icon::warning, title, u"A fájl nem található:\n"_s + path});
+    }
+}
+
+QString QtPrompts::saveFile(const QString& title, const QString& filter) {
+    QFileDialog dialog(window(), title, QString(), filter);
+    dialog.setAcceptMode(QFileDialog::AcceptSave); // takes the captions back
+    nameInHungarian(dialog, u"Mentés"_s);
+    dialog.setDefaultSuffix(QFileInfo(filter).suffix());
+    // The toolkit's own question is not in Hungarian either.
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    for (;;) {
+        const QString path = run(dialog);
+        if (path.isEmpty() || !QFileInfo::exists(path)) return path;
+        const Message question{Icon::question, title, u"A fájl már létezik, felülírod?\n"_s + path};
+        if (ask(question, Answer::no) == Answer::yes) return path;
+    }
+}
+
+std::optional<PrinterChoice> QtPrompts::choosePrinter(const QStringList& printers, int current) {
+    PrinterDialog dialog(printers, current, window());
+    if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+    return dialog.choice();
+}

@@ -1,0 +1,81 @@
+#include "settings/setup/setting_boxes.h"
+
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QWheelEvent>
+
+FontBox::FontBox(const QStringList& fonts, QWidget* parent) : QComboBox(parent) {
+    setEditable(true);
+    setCompleter(nullptr);
+    setInsertPolicy(NoInsert);
+    setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
+    setMinimumContentsLength(16);
+    setMaxVisibleItems(20);
+    setFocusPolicy(Qt::StrongFocus); // not by the wheel
+    addItems(fonts);
+    clearEditText();
+}
+
+void FontBox::wheelEvent(QWheelEvent* event) {
+    if (hasFocus())
+        QComboBox::wheelEvent(event);
+    else
+        event->ignore();
+}
+
+QValidator::State PointValidator::validate(QString& input, int&) const {
+    input.replace(u',', u'.');
+    return Acceptable;
+}
+
+namespace {
+
+QLineEdit* makeNumberBox(QWidget* parent) {
+    auto* box = new QLineEdit(parent);
+    box->setValidator(new PointValidator(box));
+    box->setFixedWidth(box->fontMetrics().horizontalAdvance(QStringLiteral("-0000.0000")));
+    return box;
+}
+
+QLineEdit* makeTextBox(const BoxLook& look, QWidget* parent) {
+    auto* box = new QLineEdit(parent);
+    box->setMaxLength(look.maxLength);
+    const int letters = std::min(look.maxLength, 25);
+    box->setMinimumWidth(box->fontMetrics().averageCharWidth() * (letters + 3));
+    return box;
+}
+
+QWidget* makeUnnamedBox(const BoxLook& look, const QStringList& fonts, QWidget* parent) {
+    switch (look.kind) {
+    case BoxKind::font:
+        return new FontBox(fonts, parent);
+    case BoxKind::tick:
+        return new QCheckBox(QString::fromUtf16(look.label), parent);
+    case BoxKind::text:
+        return makeTextBox(look, parent);
+    case BoxKind::number:
+        break;
+    }
+    return makeNumberBox(parent);
+}
+
+} // namespace
+
+QWidget* makeBox(const BoxLook& look, const QStringList& fonts, QWidget* parent) {
+    QWidget* box = makeUnnamedBox(look, fonts, parent);
+    box->setObjectName(QString::fromLatin1(look.name));
+    box->setToolTip(QString::fromUtf16(look.toolTip));
+    return box;
+}
+
+QString boxText(const QWidget& box) {
+    if (const auto* tickBox = qobject_cast<const QCheckBox*>(&box)) return field_text::showTick(tickBox->isChecked());
+    if (const auto* fontBox = qobject_cast<const QComboBox*>(&box)) return fontBox->currentText();
+    return qobject_cast<const QLineEdit*>(&box)->text();
+}
+
+void setBoxText(QWidget& box, const QString& text) {
+    if (auto* tickBox = qobject_cast<QCheckBox*>(&box)) return tickBox->setChecked(field_text::isTicked(text));
+    if (auto* fontBox = qobject_cast<QComboBox*>(&box)) return fontBox->setEditText(text);
+    qobject_cast<QLineEdit*>(&box)->setText(text);
+}

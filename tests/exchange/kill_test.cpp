@@ -1,0 +1,96 @@
+#include "exchange/csv_import.h"
+#include "records/client_database.h"
+#include "support/test_folder.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QProcess>
+
+#include <gtest/gtest.h>
+
+#include <optional>
+
+namespace {
+
+constexpr int clientsBefore = 4000;
+constexpr int killsEach = 40;
+
+ClientPair pairIn(const TestFolder& folder) {
+    return {folder.bytes(QStringLiteral("nevek1.dat")), folder.bytes(QStringLiteral("kozl3sor.dat"))};
+}
+
+void store(const TestFolder& folder, const ClientPair& pair) {
+    folder.setBytes(QStringLiteral("nevek1.dat"), pair.clients);
+    folder.setBytes(QStringLiteral("kozl3sor.dat"), pair.twins);
+}
+
+bool same(const ClientPair& a, const ClientPair& b) { return a.clients == b.clients && a.twins == b.twins; }
+
+QByteArray csvOf(int lines, const QByteArray& name) {
+    QByteArray csv;
+    for (int i = 0; i < lines; ++i)
+        csv += name + ' ' + QByteArray::number(i) + ";;azon;Buda;1024;utca;" + QByteArray::number(i) + ";sor\r\n";
+    return csv;
+}
+
+// What became of one operation in a process of its own.
+struct Run {
+    bool done;
+    qint64 microseconds; // from the start of the operation
+};
+
+// Lets the operation end, or kills it so long after its start.
+Run runProbe(const QString& operation, const TestFolder& folder, const QString& csv,
+             std::optional<qint64> killAfter = {}) {
+    QProcess process;
+    process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    process.start(QStringLiteral(KILL_PROBE), {operation, folder.folder().path(), csv});
+    const auto nextWord = [&] {
+        while (!process.canReadLine() && process.waitForReadyRead())
+            ;
+        return process.readLine().trimmed();
+    };
+    EXPECT_EQ(nextWord(), QByteArray("go"));
+    QElapsedTimer sinceGo;
+    sinceGo.start();
+    if (killAfter) {
+        while (sinceGo.nsecsElapsed() < *killAfter * 1000)
+            ; // finer than any timer
+        process.kill();
+    }
+    const bool done = nextWord() == "done";
+    const qint64 microseconds = sinceGo.nsecsElapsed() / 1000;
+    process.waitForFinished();
+    return {done, microseconds};
+}
+
+// Wherever the kill comes, the next start finds the whole old or the whole new pair.
+void killAtManyPoints(const QString& operation) {
+    const TestFolder source;
+    const QString csvPath = source.folder().file(QStringLiteral("be.csv"));
+    source.setBytes(QStringLiteral("be.csv"), csvOf(clientsBefore, "Regi"));
+    ASSERT_EQ(importClients(csvPath, source, ImportMode::overwrite).clients, clientsBefore);
+    source.setBytes(QStringLiteral("be.csv"), csvOf(clientsBefore, "Uj"));
+    const ClientPair before = pairIn(source);
+
+    const Run whole = runProbe(operation, source, csvPath);
+    ASSERT_TRUE(whole.done);
+    const ClientPair after = pairIn(source);
+
+    const TestFolder folder;
+    for (int kill = 0; kill < killsEach; ++kill) {
+        store(folder, before);
+        const bool done = runProbe(operation, folder, csvPath, whole.microseconds * kill / killsEach).done;
+        finishInterruptedCommit(folder);
+        const ClientPair found = pairIn(folder);
+        EXPECT_TRUE(same(found, after) || (!done && same(found, before))) << operation.toStdString() << ' ' << kill;
+        EXPECT_EQ(QDir(folder.folder().path()).entryList(QDir::Files).size(), 2) << "something was left behind";
+    }
+}
+
+} // namespace
+
+TEST(Kill, DuringDeleteLeavesOldOrNewPair) { killAtManyPoints(QStringLiteral("delete")); }
+TEST(Kill, DuringWipeLeavesOldOrNewPair) { killAtManyPoints(QStringLiteral("wipe")); }
+TEST(Kill, DuringAppendLeavesOldOrNewPair) { killAtManyPoints(QStringLiteral("append")); }
+TEST(Kill, DuringOverwriteLeavesOldOrNewPair) { killAtManyPoints(QStringLiteral("overwrite")); }

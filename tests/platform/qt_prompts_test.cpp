@@ -1,0 +1,169 @@
+#include "platform/qt_prompts.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QFileDialog>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// Runs `act` on the dialog that opens next. If it doesn't close it, the dialog is rejected, so that no test hangs.
+template<class Dialog>
+void onNext(std::function<void(Dialog&)> act) {
+    QTimer::singleShot(0, [act] {
+        auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(dialog, nullptr);
+        act(*dialog);
+        if (dialog->isVisible()) dialog->reject();
+    });
+}
+
+void press(QWidget& widget, int key) {
+    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+        QKeyEvent event(type, key, Qt::NoModifier);
+        QApplication::sendEvent(&widget, &event);
+    }
+}
+
+QStringList captionsOf(const QMessageBox& box) {
+    QStringList captions;
+    for (const QAbstractButton* button : box.buttons())
+        captions.append(button->text());
+    captions.sort();
+    return captions;
+}
+
+QPushButton* button(QWidget& dialog, const QString& caption) {
+    for (QPushButton* each : dialog.findChildren<QPushButton*>())
+        if (each->text() == caption) return each;
+    return nullptr;
+}
+
+const Message question{Icon::question, u" FIGYELEM "_s, u"A<b>B</b> & Tsa\nMehet?"_s};
+
+} // namespace
+
+TEST(QtPrompts, aBoxShowsWhatItWasGiven) {
+    QtPrompts prompts;
+    const struct {
+        Icon icon;
+        QMessageBox::Icon shown;
+    } icons[] = {
+        {Icon::none, QMessageBox::NoIcon},       {Icon::information, QMessageBox::Information},
+        {Icon::question, QMessageBox::Question}, {Icon::warning, QMessageBox::Warning},
+        {Icon::critical, QMessageBox::Critical},
+    };
+    for (const auto& c : icons) {
+        onNext<QMessageBox>([&](QMessageBox& box) {
+            EXPECT_EQ(box.icon(), c.shown);
+            EXPECT_EQ(box.windowTitle(), u"! HIBA !"_s);
+            EXPECT_EQ(box.text(), question.text);
+            EXPECT_EQ(box.textFormat(), Qt::PlainText);
+            EXPECT_EQ(captionsOf(box), QStringList(u"OK"_s));
+            press(box, Qt::Key_Escape);
+            EXPECT_FALSE(box.isVisible());
+        });
+        prompts.tell({c.icon, u"! HIBA !"_s, question.text});
+    }
+}
+
+TEST(QtPrompts, onlyThePressedYesIsAYes) {
+    QtPrompts prompts;
+    const struct {
+        Answer preset;
+        std::function<void(QMessageBox&)> act;
+        Answer expected;
+    } cases[] = {
+        {Answer::yes, [](QMessageBox& box) { button(box, u"Igen"_s)->click(); }, Answer::yes},
+        {Answer::no, [](QMessageBox& box) { button(box, u"Igen"_s)->click(); }, Answer::yes},
+        {Answer::yes, [](QMessageBox& box) { button(box, u"Nem"_s)->click(); }, Answer::no},
+        {Answer::yes, [](QMessageBox& box) { press(box, Qt::Key_Escape); }, Answer::no},
+        {Answer::yes, [](QMessageBox& box) { box.close(); }, Answer::no},
+        {Answer::yes, [](QMessageBox& box) { press(box, Qt::Key_Return); }, Answer::yes},
+        {Answer::no, [](QMessageBox& box) { press(box, Qt::Key_Return); }, Answer::no},
+    };
+    for (const auto& c : cases) {
+        onNext<QMessageBox>([&](QMessageBox& box) {
+            EXPECT_EQ(captionsOf(box), QStringList({u"Igen"_s, u"Nem"_s}));
+            c.act(box);
+            EXPECT_FALSE(box.isVisible());
+        });
+        EXPECT_EQ(prompts.ask(question, c.preset), c.expected) << &c - cases;
+    }
+}
+
+TEST(QtPrompts, thePrintDialogAnswersWithDeviceAndCopies) {
+    QtPrompts prompts;
+    const QStringList printers{u"Elso"_s, u"Masodik"_s, u"PDF fájl"_s};
+    onNext<QDialog>([&](QDialog& dialog) {
+        auto* combo = dialog.findChild<QComboBox*>(u"printer"_s);
+        EXPECT_EQ(dialog.windowTitle(), u"Nyomtatás"_s);
+        EXPECT_EQ(combo->count(), 3);
+        EXPECT_EQ(combo->currentIndex(), 1);
+        EXPECT_EQ(dialog.findChild<QSpinBox*>(u"copies"_s)->value(), 1);
+        combo->setCurrentIndex(2);
+        dialog.findChild<QSpinBox*>(u"copies"_s)->setValue(100);
+        button(dialog, u"OK"_s)->click();
+    });
+    const auto choice = prompts.choosePrinter(printers, 1);
+    ASSERT_TRUE(choice.has_value());
+    EXPECT_EQ(choice->printer, 2);
+    EXPECT_EQ(choice->copies, 99);
+
+    onNext<QDialog>([](QDialog& dialog) { button(dialog, u"Mégse"_s)->click(); });
+    EXPECT_FALSE(prompts.choosePrinter(printers, 0).has_value());
+
+    onNext<QDialog>([](QDialog& dialog) { EXPECT_FALSE(button(dialog, u"OK"_s)->isEnabled()); });
+    EXPECT_FALSE(prompts.choosePrinter(printers, 3).has_value());
+}
+
+TEST(QtPrompts, fileDialogsAnswerWithThePathOrNothing) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"minta.csv"_s);
+    QtPrompts prompts;
+    // The name as typed, then Enter on the accepting button.
+    const auto pick = [](const QString& name, const QString& accept) {
+        return [=](QFileDialog& dialog) {
+            EXPECT_EQ(dialog.windowTitle(), u"Cím"_s);
+            EXPECT_EQ(dialog.labelText(QFileDialog::Reject), u"Mégse"_s);
+            dialog.findChild<QLineEdit*>()->setText(name);
+            ASSERT_NE(button(dialog, accept), nullptr);
+            button(dialog, accept)->click();
+        };
+    };
+    onNext<QFileDialog>([](QFileDialog& dialog) { press(dialog, Qt::Key_Escape); });
+    EXPECT_EQ(prompts.openFile(u"Cím"_s, u"*.csv"_s), QString());
+
+    onNext<QFileDialog>(pick(folder.filePath(u"minta"_s), u"Mentés"_s));
+    EXPECT_EQ(prompts.saveFile(u"Cím"_s, u"*.csv"_s), path);
+
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.close();
+    onNext<QFileDialog>(pick(path, u"Megnyitás"_s));
+    EXPECT_EQ(prompts.openFile(u"Cím"_s, u"*.csv"_s), path);
+
+    // A file that is there is overwritten only after a yes.
+    for (const bool overwrite : {true, false}) {
+        onNext<QFileDialog>([&](QFileDialog& dialog) {
+            onNext<QMessageBox>([overwrite](QMessageBox& box) {
+                if (!overwrite) onNext<QFileDialog>([](QFileDialog& again) { again.reject(); });
+                button(box, overwrite ? u"Igen"_s : u"Nem"_s)->click();
+            });
+            pick(path, u"Mentés"_s)(dialog);
+        });
+        EXPECT_EQ(prompts.saveFile(u"Cím"_s, u"*.csv"_s), overwrite ? path : QString());
+    }
+}

@@ -1,0 +1,40 @@
+#include "records/client_records.h"
+#include "records/reference_records.h"
+#include "support/test_folder.h"
+
+#include <gtest/gtest.h>
+
+// The compiler checks sizes and offsets; here it is the bytes themselves, written down by hand.
+TEST(Layouts, ClientAndTwinAreTheseBytes) {
+    const TestFolder folder;
+    ClientRec client = clientNamed(QStringLiteral("Szűcs Ödön"), 12500);
+    client.Osszegek[11] = -1;
+    client.Kulfoldi = true;
+    folder.store(client);
+    TwinRec twin = blankTwin();
+    twin.KuldemenyAzonosito.set(u"RL 1");
+    folder.store(twin);
+
+    const QByteArray expected =
+        QByteArray("Sz\xFB"
+                   "cs \xD6"
+                   "d\xF6n")
+            .leftJustified(72) +
+        QByteArray("Budapest").leftJustified(40) + QByteArray("F\xF5 utca 1.").leftJustified(45) + "1024  " +
+        QByteArray("\xD4\x30\0\0", 4) + QByteArray(40, '\0') + QByteArray(4, '\xFF') + QByteArray(58, ' ') + "\xFF\xFF";
+    EXPECT_EQ(folder.bytes(QStringLiteral("nevek1.dat")), expected);
+    EXPECT_EQ(folder.bytes(QStringLiteral("kozl3sor.dat")),
+              QByteArray(105, ' ') + QByteArray("RL 1").leftJustified(30));
+}
+
+TEST(Layouts, DamagedRecordsReadWithoutHarm) {
+    for (const char junk : {'\0', '\xFF', '\x81'}) {
+        const TestFolder folder;
+        folder.setBytes(QStringLiteral("nevek1.dat"), QByteArray(271, junk));
+        folder.setBytes(QStringLiteral("Budapest.dat"), QByteArray(62, junk));
+        const auto client = readRecord<ClientRec>(folder);
+        EXPECT_EQ(client.Nev.trimmed().size(), junk == '\0' ? 0 : 36);
+        EXPECT_EQ(isUsableAmount(client.Osszegek[0]), false);
+        EXPECT_EQ(readRecord<BudapestRec>(folder).Kerulet.stored().size(), junk == '\0' ? 0 : 6);
+    }
+}

@@ -1,0 +1,94 @@
+#include "records/record_file.h"
+#include "support/test_folder.h"
+
+#include <QDir>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+struct Rec {
+    static constexpr auto fileName = "Proba.dat";
+    Text<3> text;
+};
+
+QByteArray bytesOf(const Rec& rec) { return {rec.text.data(), 3}; }
+
+const Rec abc{QStringView(u"abc")};
+
+} // namespace
+
+TEST(RecordFile, ReadsAndWritesWhateverTheFileHolds) {
+    struct Row {
+        const char* what;
+        QByteArray before;
+        qint64 count;
+        qint64 readAt;
+        QByteArray read;
+        qint64 writeAt;
+        QByteArray after; // of writing "abc"
+    };
+    const QByteArray zeros(3, '\0');
+    const Row rows[] = {
+        {"empty", "", 0, 1, zeros, 1, "abc"},
+        {"one", "xyz", 1, 1, "xyz", 2, "xyzabc"},
+        {"overwritten", "uvwxyz", 2, 2, "xyz", 1, "abcxyz"},
+        {"odd tail is not read", "xyzO", 1, 2, zeros, 1, "abcO"},
+        {"odd tail is overwritten by an append", "xyzOO", 1, 1, "xyz", 2, "xyzabc"},
+        {"only a tail", "OO", 0, 1, zeros, 1, "abc"},
+        {"gap", "xyz", 1, 9, zeros, 3, "xyz" + zeros + "abc"},
+        {"gap over a tail", "xyzOO", 1, 0, zeros, 3, "xyz" + zeros + "abc"},
+        {"all 0xFF", QByteArray(7, '\xFF'), 2, 2, QByteArray(3, '\xFF'), 2,
+         QByteArray(3, '\xFF') + "abc" + QByteArray(1, '\xFF')},
+        {"all NUL", QByteArray(6, '\0'), 2, 2, zeros, 3, QByteArray(6, '\0') + "abc"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.what);
+        const TestFolder folder;
+        folder.setBytes(QStringLiteral("Proba.dat"), row.before);
+        RecordFile<Rec> file(folder);
+        EXPECT_EQ(file.count(), row.count);
+        EXPECT_EQ(bytesOf(file.read(row.readAt)), row.read);
+        EXPECT_EQ(file.readAll(), row.before.first(3 * row.count));
+        EXPECT_EQ(folder.bytes(QStringLiteral("Proba.dat")), row.before) << "reading changed the file";
+        EXPECT_TRUE(file.write(row.writeAt, abc));
+        EXPECT_EQ(folder.bytes(QStringLiteral("Proba.dat")), row.after);
+        EXPECT_FALSE(file.write(0, abc));
+    }
+}
+
+TEST(RecordFile, OpeningCreatesAMissingFileEmpty) {
+    const TestFolder folder;
+    EXPECT_EQ(bytesOf(readRecord<Rec>(folder)), QByteArray(3, '\0'));
+    EXPECT_TRUE(folder.has(QStringLiteral("Proba.dat")));
+    EXPECT_EQ(folder.bytes(QStringLiteral("Proba.dat")), QByteArray());
+}
+
+TEST(RecordFile, UpdateKeepsWhatTheCallerDoesNotOwn) {
+    const TestFolder folder;
+    folder.setBytes(QStringLiteral("Proba.dat"), "xyzO");
+    EXPECT_TRUE(updateRecord<Rec>(folder, [](Rec& rec) { rec.text.data()[1] = '!'; }));
+    EXPECT_EQ(folder.bytes(QStringLiteral("Proba.dat")), QByteArray("x!zO"));
+}
+
+TEST(RecordFile, WhatCannotBeOpenedReadsAsZerosAndRefusesWriting) {
+    const TestFolder folder;
+    QDir(folder.folder().path()).mkdir(QStringLiteral("Proba.dat"));
+    RecordFile<Rec> file(folder);
+    EXPECT_EQ(file.count(), 0);
+    EXPECT_EQ(bytesOf(file.read(1)), QByteArray(3, '\0'));
+    EXPECT_EQ(file.readAll(), QByteArray());
+    EXPECT_FALSE(file.isWritable());
+    EXPECT_FALSE(file.write(1, abc));
+}
+
+TEST(RecordFile, WriteProtectedFileIsStillRead) {
+    const TestFolder folder;
+    folder.setBytes(QStringLiteral("Proba.dat"), "xyz");
+    const QString path = folder.folder().file(QStringLiteral("Proba.dat"));
+    QFile::setPermissions(path, QFile::ReadOwner);
+    if (QFile probe(path); probe.open(QIODevice::ReadWrite)) GTEST_SKIP() << "this user may write anything";
+    EXPECT_EQ(bytesOf(readRecord<Rec>(folder)), QByteArray("xyz"));
+    EXPECT_FALSE(updateRecord<Rec>(folder, [](Rec& rec) { rec = abc; }));
+    EXPECT_EQ(folder.bytes(QStringLiteral("Proba.dat")), QByteArray("xyz"));
+}

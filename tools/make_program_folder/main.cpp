@@ -1,0 +1,138 @@
+#include "exchange/postcode_tables.h"
+#include "make_program_folder/pictures.h"
+#include "records/record_file.h"
+#include "settings/check_layouts.h"
+#include "settings/general_settings.h"
+#include "settings/receipt_layouts.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QSaveFile>
+
+#include <cstdio>
+#include <functional>
+
+// make_program_folder <assets folder> <target folder>
+// Fills a folder with all that the program needs beside itself: pictures, postcode tables, help page, sample clients,
+// factory settings. What the user may have changed there, the settings, is written only where it is missing; all else
+// is made anew when its source, or this tool, is newer.
+
+namespace {
+
+constexpr int stationeryPixelsPerMm = 10;
+constexpr QSize feedSampleSize(360, 360);
+constexpr QSize iconSize(256, 256);
+constexpr QSize cursorSize(32, 32);
+
+// The bytes of a target file made from a source file; empty if the source is no good.
+using Make = std::function<QByteArray(const QString& source)>;
+
+QByteArray contents(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QByteArray stationery(const QString& source) { return jpegFile(renderStationery(source, stationeryPixelsPerMm)); }
+QByteArray feedSample(const QString& source) { return jpegFile(renderDrawing(source, feedSampleSize, Qt::white)); }
+QByteArray icon(const QString& source) { return pngFile(renderDrawing(source, iconSize, Qt::transparent)); }
+
+QByteArray moveCursor(const QString& source) {
+    const QImage image = renderDrawing(source, cursorSize, Qt::transparent);
+    return image.isNull() ? QByteArray() : cursorFile(image, QPoint(cursorSize.width() / 2, cursorSize.height() / 2));
+}
+
+QByteArray postcodes(PostcodeTable (*table)(QStringView), const QString& source) {
+    const PostcodeTable made = table(QString::fromUtf8(contents(source)));
+    if (made.badLine > 0) std::fprintf(stderr, "%s: line %d is bad\n", qPrintable(source), made.badLine);
+    return made.badLine > 0 ? QByteArray() : made.records;
+}
+
+class FolderMaker {
+public:
+    FolderMaker(const QString& assets, const QString& target) : assets_(assets), target_(target) {}
+
+    // One file from one source.
+    void file(const QString& source, const QString& name, const Make& make) {
+        const QString path = target_.filePath(name);
+        const QString sourcePath = assets_.filePath(source);
+        if (isUpToDate(path, sourcePath)) return;
+        const QByteArray bytes = make(sourcePath);
+        if (bytes.isEmpty()) return fail(sourcePath, "is missing or can't be used");
+        QSaveFile out(path);
+        const bool written = out.open(QIODevice::WriteOnly) && out.write(bytes) == bytes.size() && out.flush();
+        if (!written || !out.commit()) fail(path, "can't be written");
+    }
+
+    // Every file of a folder, under its own name with another ending.
+    void folder(const QString& source, const QString& pattern, const QString& ending, const Make& make) {
+        const QDir dir(assets_.filePath(source));
+        const QStringList names = dir.entryList({pattern}, QDir::Files);
+        if (names.isEmpty()) fail(dir.path(), "holds nothing to use");
+        for (const QString& name : names)
+            file(source + u'/' + name, QFileInfo(name).completeBaseName() + ending, make);
+    }
+
+    template<class Rec>
+    void factoryRecord() {
+        const QString name = QString::fromLatin1(Rec::fileName);
+        if (target_.exists(name)) return;
+        const Rec record = Rec::factory();
+        if (!RecordFile<Rec>(ProgramFolder(target_.path())).write(1, record)) fail(name, "can't be written");
+    }
+
+    bool succeeded() const { return succeeded_; }
+
+private:
+    // An empty file is one that the program found missing.
+    static bool isUpToDate(const QString& path, const QString& source) {
+        const QFileInfo target(path);
+        const QDateTime made = target.lastModified();
+        return target.size() > 0 && made >= QFileInfo(source).lastModified() &&
+               made >= QFileInfo(QCoreApplication::applicationFilePath()).lastModified();
+    }
+
+    void fail(const QString& path, const char* why) {
+        std::fprintf(stderr, "make_program_folder: %s %s\n", qPrintable(path), why);
+        succeeded_ = false;
+    }
+
+    QDir assets_;
+    QDir target_;
+    bool succeeded_ = true;
+};
+
+void makeAll(FolderMaker& maker) {
+    maker.folder(QStringLiteral("stationery"), QStringLiteral("*.svg"), QStringLiteral(".jpg"), stationery);
+    maker.folder(QStringLiteral("feed"), QStringLiteral("*.svg"), QStringLiteral(".jpg"), feedSample);
+    maker.file(QStringLiteral("icons/tarlimo.svg"), QStringLiteral("tarlimo.png"), icon);
+    maker.file(QStringLiteral("icons/H_move.svg"), QStringLiteral("H_move.cur"), moveCursor);
+    maker.file(QStringLiteral("postcodes/telepulesek.csv"), QStringLiteral("Telepulesek.dat"),
+               [](const QString& source) { return postcodes(settlementTable, source); });
+    maker.file(QStringLiteral("postcodes/budapest.csv"), QStringLiteral("Budapest.dat"),
+               [](const QString& source) { return postcodes(budapestTable, source); });
+    maker.folder(QStringLiteral("help"), QStringLiteral("*.htm"), QStringLiteral(".htm"), contents);
+    maker.folder(QStringLiteral("sample"), QStringLiteral("*.csv"), QStringLiteral(".csv"), contents);
+
+    maker.factoryRecord<Set>();
+    maker.factoryRecord<SetRcsekk>();
+    maker.factoryRecord<SetUlap>();
+    maker.factoryRecord<SetTerti>();
+    maker.factoryRecord<SetFveveny>();
+    maker.factoryRecord<SetIrat2>();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen"); // draws text, shows nothing
+    const QGuiApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.size() != 3 || !QDir().mkpath(arguments[2])) {
+        std::fprintf(stderr, "usage: make_program_folder <assets folder> <target folder>\n");
+        return 1;
+    }
+    FolderMaker maker(arguments[1], arguments[2]);
+    makeAll(maker);
+    return maker.succeeded() ? 0 : 1;
+}

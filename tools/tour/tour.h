@@ -1,0 +1,55 @@
+#pragma once
+
+#include "mainwindow/frmTarlimo.h"
+#include "platform/qt_print_service.h"
+#include "prompts/prompts.h"
+
+#include <memory>
+
+// Answers every prompt as a willing clerk would, and keeps what was shown.
+class TourPrompts : public Prompts {
+public:
+    QString csv;     // what the file dialog answers
+    int printer = 0; // what the print dialog answers
+    QStringList shown;
+
+    void tell(const Message& message) override;
+    Answer ask(const Message& message, Answer preset) override;
+    QString openFile(const QString& title, const QString& filter) override;
+    QString saveFile(const QString& title, const QString& filter) override;
+    std::optional<PrinterChoice> choosePrinter(const QStringList& printers, int current) override;
+};
+
+// Drives the real window through the main road on a fresh program folder: import, click, type, print, batch, setup.
+// Screenshots and PDFs go to the results folder. A step that doesn't do what it should is counted and told.
+class Tour {
+public:
+    // `results` is made; the program folder is built beside the results as a copy of `delivered`.
+    Tour(const QString& delivered, const QString& results);
+    // Number of steps that failed.
+    int run();
+
+private:
+    QString freshFolder(const QString& delivered);
+    void check(bool fact, const QString& what);
+    void shoot(const QString& name);
+    void click(const char* name);
+    void clickRow(int row, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    void showTab(int tab);
+    void type(const char* box, const QString& text);
+    void print(const char* button, const QString& form, int pages);
+
+    void importClients();
+    void walkTabs();
+    void printSingles();
+    void printBatches();
+    void openSetup(int tab);
+    void closeAndReopen();
+
+    QString results_;
+    ProgramFolder folder_;
+    QtPrintService printing_;
+    TourPrompts prompts_;
+    std::unique_ptr<frmTarlimo> window_;
+    int failures_ = 0;
+};
