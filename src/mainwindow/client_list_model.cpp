@@ -31,7 +31,7 @@ QByteArrayView withoutBlanks(QByteArrayView text) {
     return withoutBlanksBehind(text);
 }
 
-constexpr qsizetype nameWidth = decltype(ClientRec::Nev)::width;
+constexpr std::size_t nameWidth = decltype(ClientRec::Nev)::width;
 constexpr std::size_t addressWidth = sizeof(ClientRec::Irsz) + sizeof(ClientRec::Helyseg) + sizeof(ClientRec::Cim) + 3;
 
 // The address column as bytes: what it shows, but for the blanks behind it.
@@ -53,42 +53,40 @@ private:
     char* used_ = bytes_.data();
 };
 
-// Looks for a text in names whatever the case: from window to window, by the step that the byte at the window's end
-// allows, so that most bytes of a name are never looked at.
+// Looks for a text in names whatever the case. Most names lack one of its letters, which is seen at a far higher speed
+// than bytes are compared one by one.
 class NameFinder {
 public:
-    // 1 to nameWidth bytes.
-    explicit NameFinder(QByteArrayView wanted) : behind_(wanted.size() - 1) {
-        for (std::size_t byte = 0; byte < bytes_.size(); ++byte)
-            bytes_[byte] = {windows1250::fold(static_cast<char>(byte)), static_cast<std::uint8_t>(wanted.size())};
-        std::transform(wanted.begin(), wanted.end(), wanted_.begin(), windows1250::fold);
-        for (qsizetype i = 0; i < behind_; ++i)
-            for (Byte& byte : bytes_)
-                if (byte.folded == wanted_[static_cast<std::size_t>(i)])
-                    byte.step = static_cast<std::uint8_t>(behind_ - i);
+    explicit NameFinder(QByteArrayView wanted) {
+        for (const char byte : wanted)
+            wanted_.push_back(bothCases(byte));
     }
 
-    bool isIn(QByteArrayView name) const {
-        for (qsizetype at = behind_; at < name.size(); at += of(name[at]).step)
-            if (endsAt(name.begin() + at)) return true;
-        return false;
+    bool isIn(const Text<nameWidth>& name) const {
+        const auto holds = [&name](char byte) { return std::memchr(name.data(), byte, nameWidth) != nullptr; };
+        for (const Letter& letter : wanted_)
+            if (!holds(letter.small) && !holds(letter.capital)) return false;
+        const QByteArrayView text = storedBytes(name);
+        return std::search(text.begin(), text.end(), wanted_.begin(), wanted_.end(),
+                           [](char byte, const Letter& letter) {
+                               return byte == letter.capital || byte == letter.small;
+                           }) != text.end();
     }
 
 private:
-    struct Byte {
-        char folded;
-        std::uint8_t step;
+    struct Letter {
+        char capital, small;
     };
-    const Byte& of(char byte) const { return bytes_[static_cast<unsigned char>(byte)]; }
-    bool endsAt(const char* end) const {
-        for (qsizetype i = behind_; i >= 0; --i, --end)
-            if (of(*end).folded != wanted_[static_cast<std::size_t>(i)]) return false;
-        return true;
+    static Letter bothCases(char byte) {
+        Letter letter{windows1250::fold(byte), byte};
+        for (int other = 0; other < 256; ++other)
+            if (static_cast<char>(other) != letter.capital &&
+                windows1250::fold(static_cast<char>(other)) == letter.capital)
+                letter.small = static_cast<char>(other);
+        return letter;
     }
 
-    std::array<Byte, 256> bytes_;
-    std::array<char, nameWidth> wanted_{};
-    qsizetype behind_; // bytes of the window before its last one
+    std::vector<Letter> wanted_;
 };
 
 // One row's place in a sort. Most comparisons end at the first eight bytes of the key, which lie at hand.
@@ -145,12 +143,11 @@ ClientListModel::Rows ClientListModel::allRows() const {
 ClientListModel::Rows ClientListModel::rowsWithName(QStringView text) const {
     const QByteArray wanted = windows1250::encode(trimBlanks(text));
     if (wanted.isEmpty()) return allRows();
-    // No name is longer, and none holds a letter from outside the code page.
-    if (wanted.size() > nameWidth || wanted.count('?') != text.count(u'?')) return {};
+    if (wanted.count('?') != text.count(u'?')) return {}; // no name holds a letter from outside the code page
     const NameFinder finder(wanted);
     Rows rows;
     for (const int number : allRows())
-        if (finder.isIn(storedBytes(client(number).Nev))) rows.push_back(number);
+        if (finder.isIn(client(number).Nev)) rows.push_back(number);
     return rows;
 }
 
@@ -181,7 +178,7 @@ void ClientListModel::setSort(int column, Qt::SortOrder order) {
 
 void ClientListModel::sortRows() {
     if (!sort_) return;
-    const std::size_t room = hungarian_order::keyRoom(sort_->column == Nev ? std::size_t{nameWidth} : addressWidth);
+    const std::size_t room = hungarian_order::keyRoom(sort_->column == Nev ? nameWidth : addressWidth);
     const auto keys = std::make_unique_for_overwrite<char[]>(rows_.size() * room);
     std::vector<SortEntry> entries;
     entries.reserve(rows_.size());

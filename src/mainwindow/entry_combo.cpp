@@ -1,6 +1,7 @@
 #include "mainwindow/entry_combo.h"
 
 #include <QLineEdit>
+#include <QPainter>
 #include <QSignalBlocker>
 #include <QWheelEvent>
 
@@ -19,6 +20,35 @@ void EntryCombo::offer(const QStringList& entries) {
     addItems(entries);
     setCurrentIndex(-1);
     setEditText(text);
+}
+
+void EntryCombo::lieOnPaper() {
+    onPaper_ = true;
+    lineEdit()->setFrame(false);
+}
+
+int EntryCombo::arrowWidth() const { return qBound(10, height() * 4 / 5, 22); }
+
+void EntryCombo::resizeEvent(QResizeEvent* event) {
+    SteadyCombo::resizeEvent(event);
+    if (onPaper_) lineEdit()->setGeometry(0, 0, width() - arrowWidth(), height());
+}
+
+void EntryCombo::paintEvent(QPaintEvent* event) {
+    if (!onPaper_) {
+        SteadyCombo::paintEvent(event);
+        return;
+    }
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF arrow(width() - arrowWidth(), 0, arrowWidth(), height());
+    painter.fillRect(arrow, QColor(0, 0, 0, 18));
+    const double half = arrow.width() / 4;
+    const QPointF middle = arrow.center();
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(0, 0, 0, 150));
+    painter.drawPolygon(QPolygonF(
+        {middle + QPointF(-half, -half / 2), middle + QPointF(half, -half / 2), middle + QPointF(0, half / 2 + 1)}));
 }
 
 void SteadyCombo::wheelEvent(QWheelEvent* event) { event->ignore(); }

@@ -21,4 +21,15 @@ public:
 
     // Replaces the list and keeps the text of the box. No signal.
     void offer(const QStringList& entries);
+    // Drawn like the text boxes on the picture of a form, whose rows are lower than a combo box of the style.
+    void lieOnPaper();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    int arrowWidth() const;
+
+    bool onPaper_ = false;
 };

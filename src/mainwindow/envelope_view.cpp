@@ -64,10 +64,10 @@ EnvelopeView::EnvelopeView(EnvelopeTab& tab, const FormContext& context) : FormV
         "frameCimzett",
         {{tab.txtBoritekCimzettNev, "txtBoritekCimzettNev", "Címzett neve", &tab.chkFKCNev, "chkFKCNev"},
          {tab.txtBoritekCimzettNev2, "txtBoritekCimzettNev2", "Címzett második neve", &tab.chkFKCNev2, "chkFKCNev2"},
-         {tab.txtBoritekCimzettCim1, "txtBoritekCimzettCim1", "Címzett helysége", &tab.chkFKCCim1, "chkFKCCim1"},
+         {tab.txtBoritekCimzettCim1, "txtBoritekCimzettCim1", "Címzett helysége", &tab.chkFKCCim1, "chkFKCCim1", 1},
          {tab.txtBoritekCimzettCim2, "txtBoritekCimzettCim2", "Címzett címe", &tab.chkFKCCim2, "chkFKCCim2"},
          {tab.txtBoritekCimzettIrSzam, "txtBoritekCimzettIrSzam", "Címzett irányítószáma", &tab.chkFKCIrsz,
-          "chkFKCIrsz"}});
+          "chkFKCIrsz", 1}});
     addTexts({{tab.txtFelado5mezo, "txtFelado5mezo", {}, "Feladó alá szabadon írható szöveg..."}});
     buildSide();
     onShow([this] { placeForType(); });
@@ -82,7 +82,7 @@ void EnvelopeView::addLines(const char* name, std::initializer_list<Line> lines)
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setSpacing(1);
     for (const Line& line : lines) {
-        const int row = grid->rowCount();
+        const int row = grid->rowCount() + line.gapRows;
         QLineEdit* text = bindText(line.value, line.name, line.tooltip);
         text->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
         QAbstractButton* bold = bindCheck(*line.bold, line.boldName, QString(), "Kipipálva félkövér nyomtatás...");
@@ -90,6 +90,8 @@ void EnvelopeView::addLines(const char* name, std::initializer_list<Line> lines)
         bold->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Ignored);
         grid->addWidget(text, row, 0);
         grid->addWidget(bold, row, 1);
+        grid->setRowStretch(row, 1);
+        if (line.gapRows > 0) grid->setRowStretch(row - 1, 1);
         onShow([text, &isBold = *line.bold] {
             QFont font; // the weight alone: the size stays that of the page
             font.setBold(isBold);
@@ -185,7 +187,7 @@ void EnvelopeView::placeForType() {
     };
     put("frameFelado", row.sender, {62, 18}, 3);
     put("txtFelado5mezo", row.sender + QPointF(0, 18.5 * scale), {57, 4.4}, 3);
-    put("frameCimzett", row.addressee, {72, 26}, 3.4);
+    put("frameCimzett", row.addressee, {72, 33}, 3.3);
     setShown({"frameFelado"}, tab_.chkFelado);
     setShown({"frameCimzett"}, tab_.chkCimzett);
 }

@@ -9,7 +9,7 @@
 #include <QPushButton>
 
 namespace {
-constexpr double captionMm = 2.9; // letters of captions, smaller than those of the data
+constexpr double captionMm = 2.7; // letters of captions, smaller than those of the data
 }
 
 FormView::FormView(const FormContext& context, QSizeF sizeMm, QWidget* parent)
@@ -33,6 +33,7 @@ void FormView::addTexts(std::initializer_list<TextRow> rows) {
 
 EntryCombo* FormView::addCombo(const TextRow& row, const QStringList& entries) {
     EntryCombo* box = bindCombo(row.value, entries, row.name, row.tooltip);
+    box->lieOnPaper();
     page_->place(box, row.mm);
     return box;
 }

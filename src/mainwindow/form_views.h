@@ -64,6 +64,7 @@ private:
         const char* tooltip;
         bool* bold;
         const char* boldName;
+        int gapRows = 0; // empty rows ahead, as on the paper
     };
     void addLines(const char* name, std::initializer_list<Line> lines);
     void buildSide();

@@ -46,7 +46,7 @@ constexpr TabRow tabRows[] = {
 };
 constexpr int tabCount = static_cast<int>(std::size(tabRows));
 
-constexpr QSize designSize(1180, 10665 / 15); // the height in twips, 15 to a pixel
+constexpr QSize designSize(1240, 10665 / 15); // the height in twips, 15 to a pixel
 
 } // namespace
 
@@ -147,7 +147,7 @@ void frmTarlimo::load() {
             {Icon::information, QStringLiteral("Figyelem!"),
              QStringLiteral("A program mappája nem írható,\naz adatok és a beállítások nem menthetők!")});
     showSheet(tabs_.label, readRecord<CimkeSetup>(folder_));
-    panel_->offerPrinters(device_.Printers());
+    panel_->offerPrinters(device_.Printers(), services_.printing.defaultPrinter());
     restoreControls();
     restoreBold(tabs_.envelope, readRecord<boritek>(folder_));
     clients_->Beolvas();

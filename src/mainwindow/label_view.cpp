@@ -29,9 +29,9 @@ LabelView::LabelView(LabelTab& tab, const FormContext& context) : BoundView(cont
     auto* grid = new QGridLayout(this);
     grid->addWidget(buildFonts(), 0, 0);
     grid->addWidget(buildSheet(), 1, 0);
-    grid->addWidget(buildGrid(), 0, 1, 3, 1);
+    grid->addWidget(buildGrid(), 0, 1, 2, 1);
     grid->addWidget(buildPreview(), 0, 2);
-    grid->addWidget(buildCustom(), 1, 2, 2, 1);
+    grid->addWidget(buildCustom(), 1, 2);
     auto* note = new QLabel(QStringLiteral(
         "A nyomtatni kívánt cimké(ke)t ki kell pipálni. A nyomtatáskor csak a kipipált cimkék kerülnek nyomtatásra. "
         "Oszlop vagy sor állítás után meg kell nyomni a Rögzítés gombot. A cimkék méretét a program automatikusan "
@@ -39,9 +39,10 @@ LabelView::LabelView(LabelTab& tab, const FormContext& context) : BoundView(cont
     note->setObjectName(QStringLiteral("Label5"));
     note->setWordWrap(true);
     note->setAlignment(Qt::AlignTop);
-    grid->addWidget(note, 2, 0);
+    grid->addWidget(note, 2, 0, 1, 3);
     grid->setColumnStretch(1, 1);
-    grid->setRowStretch(2, 1);
+    grid->setColumnMinimumWidth(1, 200);
+    grid->setRowStretch(1, 1);
     onShow([this] { showGrid(); });
     connect(this, &BoundView::edited, this, [this] { showValues(); });
 }
@@ -83,19 +84,22 @@ void LabelView::cmbBetutipusok_Click() {
 
 QGroupBox* LabelView::buildFonts() {
     QGroupBox* box = frame("Frame6", "Betűtípus és betűméret");
+    box->setMaximumWidth(360);
     auto* grid = new QGridLayout(box);
     auto* sample = new QLabel(QStringLiteral("Minta"));
     sample->setObjectName(QStringLiteral("lbMinta"));
-    sample->setMinimumHeight(24);
+    sample->setFixedHeight(26); // a large font shows its upper part
     for (int line = 0; line < 5; ++line) {
         const auto index = static_cast<std::size_t>(line);
         EntryCombo* font = bindCombo(tab_.ComboBetuTipus1[index], fonts_, indexed("ComboBetuTipus1", line));
         EntryCombo* size = bindCombo(tab_.ComboBetuSize[index], sizes_, indexed("ComboBetuSize", line));
-        font->setMinimumContentsLength(14);
+        font->setMinimumContentsLength(12);
         size->setMinimumContentsLength(2);
         grid->addWidget(new QLabel(QStringLiteral("%1. sor").arg(line + 1)), line, 0);
         grid->addWidget(font, line, 1);
         grid->addWidget(size, line, 2);
+        font->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+        size->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
         const auto showSample = [this, index, sample] {
             sample->setFont(
                 QFont(tab_.ComboBetuTipus1[index], std::max<int>(6, leadingI16(tab_.ComboBetuSize[index]))));
@@ -103,16 +107,17 @@ QGroupBox* LabelView::buildFonts() {
         connect(font, &QComboBox::editTextChanged, sample, showSample);
         connect(size, &QComboBox::editTextChanged, sample, showSample);
     }
-    grid->addWidget(sample, 5, 0, 1, 3);
+    grid->addWidget(sample, 5, 0);
     auto* save = new QPushButton(QStringLiteral("&Betűtípus és méret mentése"));
     save->setObjectName(QStringLiteral("cmbBetutipusok"));
     connect(save, &QPushButton::clicked, this, &LabelView::cmbBetutipusok_Click);
-    grid->addWidget(save, 6, 0, 1, 3);
+    grid->addWidget(save, 5, 1, 1, 2);
     return box;
 }
 
 QGroupBox* LabelView::buildSheet() {
     QGroupBox* box = frame("Frame7", "Cimke méret beállítása");
+    box->setMaximumWidth(360);
     auto* form = new QGridLayout(box);
     static const QStringList columns{QStringLiteral("4"), QStringLiteral("3"), QStringLiteral("2"),
                                      QStringLiteral("1")};
@@ -122,6 +127,8 @@ QGroupBox* LabelView::buildSheet() {
         form->addWidget(new QLabel(QString::fromUtf8(caption)), row, column);
         form->addWidget(field, row, column + 1);
     };
+    form->setColumnStretch(1, 1);
+    form->setColumnStretch(3, 1);
     add(0, 0, "Oszlop:", bindCombo(tab_.txtOszlop, columns, "txtOszlop"));
     add(0, 2, "Sor:", bindCombo(tab_.txtSor, rows, "txtSor"));
     add(1, 0, "Szélesség:", bindText(tab_.txtSzeles, "txtSzeles", "A cimke szélessége, mm"));
@@ -185,7 +192,7 @@ QGroupBox* LabelView::buildPreview() {
         ++index;
     }
     lines->addStretch();
-    box->setMinimumWidth(220);
+    box->setMinimumWidth(QFontMetrics(box->font()).horizontalAdvance(box->title()) + 16);
     return box;
 }
 

@@ -24,7 +24,7 @@ constexpr const char* samples[8][2] = {
     {"UtanveteliLapAllo.jpg", "UtanveteliLapfekvo.jpg"},
 };
 constexpr int labelTab = 4;
-constexpr int sampleSize = 180;
+constexpr int sampleSize = 170;
 
 } // namespace
 
@@ -49,6 +49,11 @@ PrintPanel::PrintPanel(const ProgramFolder& folder, QWidget* parent)
     sample_->setFixedSize(sampleSize, sampleSize);
     sample_->setFrameStyle(QFrame::StyledPanel | QFrame::Plain);
 
+    deviceName_ = new QLabel;
+    deviceName_->setObjectName(QStringLiteral("lbNyomtato"));
+    deviceName_->setTextFormat(Qt::PlainText);
+    deviceName_->setAlignment(Qt::AlignCenter);
+    deviceName_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); // a long name must not widen the panel
     auto* feeds = new QHBoxLayout;
     feeds->addStretch();
     feeds->addWidget(upright_);
@@ -58,6 +63,7 @@ PrintPanel::PrintPanel(const ProgramFolder& folder, QWidget* parent)
     auto* column = new QVBoxLayout(this);
     column->addWidget(print_);
     column->addWidget(batch_);
+    column->addWidget(deviceName_);
     column->addSpacing(4);
     column->addLayout(feeds);
     column->addWidget(sample_, 0, Qt::AlignHCenter);
@@ -93,13 +99,19 @@ QWidget* PrintPanel::buildDeviceChoice() {
     connect(printers_, &QComboBox::activated, this, [this](int index) {
         printNo_->setText(QString::number(index));
         updateRecord<Set>(folder_, [index](Set& set) { set.lbPrintNo = static_cast<std::int16_t>(index); });
+        showDeviceName();
     });
     connect(systemDevice_, &QRadioButton::toggled, this, &PrintPanel::storeDevice);
     return frame;
 }
 
-void PrintPanel::offerPrinters(const QStringList& printers) {
+void PrintPanel::showDeviceName() {
+    deviceName_->setText(QStringLiteral("Nyomtató: ") + (isSystemDefault() ? defaultName_ : printers_->currentText()));
+}
+
+void PrintPanel::offerPrinters(const QStringList& printers, int systemDefault) {
     const QSignalBlocker block(printers_);
+    defaultName_ = printers.value(systemDefault);
     printers_->clear();
     printers_->addItems(printers);
     printers_->setCurrentIndex(-1);
@@ -109,6 +121,7 @@ void PrintPanel::showPrinter(int lbPrintNo) {
     const QSignalBlocker block(printers_);
     printNo_->setText(QString::number(lbPrintNo));
     printers_->setCurrentIndex(lbPrintNo < printers_->count() ? lbPrintNo : -1);
+    showDeviceName();
 }
 
 void PrintPanel::selectDevice(bool systemDefault) { (systemDefault ? systemDevice_ : chosenDevice_)->setChecked(true); }
@@ -118,6 +131,7 @@ bool PrintPanel::isSystemDefault() const { return systemDevice_->isChecked(); }
 void PrintPanel::storeDevice() {
     const bool systemDefault = isSystemDefault();
     printers_->setEnabled(!systemDefault);
+    showDeviceName();
     updateRecord<Set>(folder_, [systemDefault](Set& set) { set.opPrinter_1 = systemDefault; });
 }
 

@@ -18,7 +18,8 @@ class PrintPanel : public QGroupBox {
 public:
     PrintPanel(const ProgramFolder& folder, QWidget* parent = nullptr);
 
-    void offerPrinters(const QStringList& printers);
+    // The device list, and which of it is the system's default.
+    void offerPrinters(const QStringList& printers, int systemDefault);
     // Restores the stored choice without storing it again; a number out of range leaves the box without selection.
     void showPrinter(int lbPrintNo);
     void selectDevice(bool systemDefault);
@@ -41,6 +42,7 @@ private:
     QWidget* buildDeviceChoice();
     void showSample();
     void storeDevice();
+    void showDeviceName();
 
     const ProgramFolder& folder_;
     QPushButton* print_;
@@ -52,5 +54,7 @@ private:
     QRadioButton* systemDevice_;
     QComboBox* printers_;
     QLabel* printNo_;
+    QLabel* deviceName_; // where the next press prints
+    QString defaultName_;
     int tab_ = 0;
 };

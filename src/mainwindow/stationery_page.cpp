@@ -10,6 +10,13 @@ StationeryPage::StationeryPage(const ProgramFolder& folder, QSizeF sizeMm, QWidg
     , folder_(folder)
     , sizeMm_(sizeMm) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    // The paper is light whatever the desktop's colours, and its rows leave no room for a style's frames.
+    setStyleSheet(QStringLiteral(
+        "QLineEdit { color: black; background: rgba(255, 255, 255, 200); border: 1px solid rgba(0, 0, 0, 45);"
+        " border-radius: 1px; padding: 0px; }"
+        "QLineEdit:hover { border-color: rgba(0, 0, 0, 110); }"
+        "QLineEdit:focus { background: white; border: 1px solid #1f6fb5; }"
+        "QLabel { color: black; } QCheckBox, QRadioButton { color: black; }"));
 }
 
 void StationeryPage::setPicture(const QString& fileName, QSizeF sizeMm) {

@@ -21,7 +21,7 @@ public:
     const QString& picture() const { return fileName_; }
 
     // Puts a child at `mm`; its letters are `letterMm` high (a 10 point letter is 3.5 mm).
-    void place(QWidget* child, QRectF mm, double letterMm = 3.2);
+    void place(QWidget* child, QRectF mm, double letterMm = 2.75);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;

@@ -14,16 +14,12 @@ void txOsszeg_Change(YellowCheckTab& tab, const Set& set, PrintDevice& device);
 // The copies of the two word lines.
 void txtSzoveg21_Change(YellowCheckTab& tab);
 void txtSzoveg11_Change(YellowCheckTab& tab);
-// Both at once.
-void copyWords(YellowCheckTab& tab);
 
 // The stub's copies of the payer.
 void txNev_Change(YellowCheckTab& tab);
 void txCim1_Change(YellowCheckTab& tab);
 void txCim2_Change(YellowCheckTab& tab);
 void txIrszam_Change(YellowCheckTab& tab);
-// All four at once.
-void copyPayerToStub(YellowCheckTab& tab);
 
 // Ticked, the second title line takes the payer's identifier; unticked, it is emptied.
 void chkBefAzonMasolasa_Click(YellowCheckTab& tab);

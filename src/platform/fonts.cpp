@@ -59,9 +59,9 @@ std::optional<QString> FontBook::installedName(const QString& name) const {
 
 std::optional<QString> FontBook::familyFor(const QString& name) const {
     const QString full = withoutTrailingBlanks(name);
-    if (const auto itself = installedName(full)) return itself;
+    if (auto itself = installedName(full)) return itself;
     const QString plain = withoutCe(full);
-    if (const auto itself = installedName(plain)) return itself;
+    if (auto itself = installedName(plain)) return itself;
     for (const Substitute& substitute : substitutes)
         if (plain.compare(substitute.asked, Qt::CaseInsensitive) == 0) return installedName(substitute.serves);
     return std::nullopt;

@@ -90,7 +90,7 @@ QString QtPrompts::openFile(const QString& title, const QString& filter) {
     // Any name may be typed: the toolkit's own complaint about a missing file is not in Hungarian.
     dialog.setFileMode(QFileDialog::AnyFile);
     for (;;) {
-        const QString path = run(dialog);
+        QString path = run(dialog);
         if (path.isEmpty() || QFileInfo(path).isFile()) return path;
         tell({Icon::warning, title, u"A fájl nem található:\n"_s + path});
     }
@@ -104,7 +104,7 @@ QString QtPrompts::saveFile(const QString& title, const QString& filter) {
     // The toolkit's own question is not in Hungarian either.
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
     for (;;) {
-        const QString path = run(dialog);
+        QString path = run(dialog);
         if (path.isEmpty() || !QFileInfo::exists(path)) return path;
         const Message question{Icon::question, title, u"A fájl már létezik, felülírod?\n"_s + path};
         if (ask(question, Answer::no) == Answer::yes) return path;

@@ -177,8 +177,8 @@ TEST(JobPainter, aDeviceThatDoesNotBeginIsAnError) {
 }
 
 TEST(Paper, aSizeThatTheDeviceLacksTakesTheNextLargerSheet) {
-    const QList<QPageSize> office{QPageSize(QPageSize::A3), QPageSize(QPageSize::Letter), QPageSize(QPageSize::A4), QPageSize(QPageSize::A5),
-                                  QPageSize(QPageSize::EnvelopeDL)};
+    const QList<QPageSize> office{QPageSize(QPageSize::A3), QPageSize(QPageSize::Letter), QPageSize(QPageSize::A4),
+                                  QPageSize(QPageSize::A5), QPageSize(QPageSize::EnvelopeDL)};
     const auto form = [](double width, double height) { return pageOf({1, 9, QSizeF(width, height)}).pageSize(); };
     const struct {
         QPageSize wanted;

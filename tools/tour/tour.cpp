@@ -55,6 +55,7 @@ int Tour::run() {
     window_ = std::make_unique<frmTarlimo>(
         folder_,
         WindowServices{printing_, prompts_, [](const QString&) {}, [this] { return printing_.lastPdf(); }, {}});
+    window_->resize(1240, 711); // the design size: the offscreen platform's screen is smaller
     window_->show();
     check(QTest::qWaitForWindowExposed(window_.get()), QStringLiteral("the window opens"));
     shoot(QStringLiteral("01-indulas"));
@@ -196,6 +197,7 @@ void Tour::openSetup(int tab) {
         auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
         check(dialog != nullptr, QStringLiteral("the setup dialog opens"));
         if (dialog == nullptr) return;
+        dialog->resize(dialog->sizeHint()); // the offscreen platform's screen is smaller than a real one
         const QString path = results_ + QStringLiteral("/06-beallitasok-%1.png").arg(tab);
         check(dialog->grab().save(path), QStringLiteral("screenshot of the setup dialog"));
         dialog->reject();

@@ -1,0 +1,176 @@
+#include "mainwindow/client_list_model.h"
+#include "support/test_folder.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class ClientList : public testing::Test {
+protected:
+    void store(std::initializer_list<const char16_t*> names) {
+        qint64 k = 0;
+        for (const char16_t* name : names)
+            folder.store(clientNamed(QString::fromUtf16(name)), ++k);
+    }
+    QString text(int row, int column) { return model.data(model.index(row, column), Qt::DisplayRole).toString(); }
+    using Numbers = std::vector<int>;
+
+    TestFolder folder;
+    ClientListModel model;
+};
+
+TEST_F(ClientList, ShowsNameAddressAndNumber) {
+    store({u"Kiss Anna", u" Nagy Éva "});
+    model.Beolvas(folder);
+    ASSERT_EQ(model.rowCount(), 2);
+    EXPECT_EQ(text(1, 0), QStringLiteral("Nagy Éva"));
+    EXPECT_EQ(text(0, 1), QStringLiteral("1024   Budapest, ") + QStringLiteral("Fő utca 1.").leftJustified(45));
+    EXPECT_EQ(text(1, 2), QStringLiteral("     2"));
+    model.cmdBeolvas_Click(folder);
+    EXPECT_EQ(text(1, 2), QStringLiteral("2"));
+    EXPECT_EQ(model.recordNumber(1), 2);
+    EXPECT_EQ(model.rowOf(2), 1);
+    EXPECT_EQ(model.rowOf(3), -1);
+    EXPECT_EQ(model.headerData(2, Qt::Horizontal, Qt::DisplayRole).toString(), QStringLiteral("rec"));
+}
+
+TEST_F(ClientList, OddFilesStandInTheListAsTheyAre) {
+    const auto rows = [&](const QByteArray& bytes) {
+        folder.setBytes(QStringLiteral("nevek1.dat"), bytes);
+        for (const int column : {0, 1, 2}) {
+            model.setSort(column, Qt::AscendingOrder);
+            model.Beolvas(folder);
+        }
+        for (int row = 0; row < model.rowCount(); ++row)
+            text(row, 0), text(row, 1);
+        model.search(folder, u"a");
+        return model.rowCount();
+    };
+    model.Beolvas(folder); // no file yet
+    EXPECT_EQ(model.rowCount(), 0);
+    EXPECT_TRUE(folder.has(QStringLiteral("nevek1.dat")));
+    EXPECT_EQ(rows(QByteArray(270, 'a')), 0);
+    EXPECT_EQ(rows(QByteArray(271 + 100, 'a')), 1);
+    EXPECT_EQ(rows(QByteArray(271 * 3, '\0')), 0);
+    EXPECT_EQ(rows(QByteArray(271 * 3, '\xFF')), 0);
+    QByteArray afterNul(271, ' ');
+    afterNul.replace(0, 4, QByteArray("b\0a ", 4));
+    EXPECT_EQ(rows(afterNul), 0); // a NUL ends the name
+    EXPECT_EQ(model.data(QModelIndex(), Qt::DisplayRole), QVariant());
+}
+
+TEST_F(ClientList, SearchFindsPartsOfNamesInAnyCase) {
+    store({u"Kovács Éva", u"KOVÁCSNÉ Ősz Anna", u"Szőke Béla?", u"nagy  éva", u"Ž. Łukasz"});
+    const struct {
+        const char16_t* text;
+        Numbers found;
+    } searches[] = {
+        {u"", {1, 2, 3, 4, 5}},
+        {u"   ", {1, 2, 3, 4, 5}},
+        {u"kovács", {1, 2}},
+        {u" ÉVA ", {1, 4}},
+        {u"ő", {2, 3}},
+        {u"õ", {2, 3}}, // a keyboard without the Hungarian letter
+        {u"nagy éva", {}},
+        {u"nagy  éva", {4}},
+        {u"ž. ł", {5}},
+        {u"eva", {}},
+        {u"?", {3}},
+        {u"Ω", {}},
+        {u"cs n", {}},
+        {u"Fő utca", {}}, // the address isn't looked at
+        {u"an", {2}},
+        {u"nna", {2}},
+    };
+    for (const auto& search : searches) {
+        model.search(folder, search.text);
+        EXPECT_EQ(model.recordNumbers(), search.found) << QString::fromUtf16(search.text).toStdString();
+    }
+    model.search(folder, QString(300, u'a'));
+    EXPECT_EQ(model.rowCount(), 0);
+    model.search(folder, u"éva");
+    EXPECT_EQ(text(1, 2), QStringLiteral("4")); // bare
+    store({u"Éva is here now"});
+    model.search(folder, u"éva"); // reads the file afresh
+    EXPECT_EQ(model.recordNumbers(), (Numbers{1, 4}));
+}
+
+TEST_F(ClientList, SortIsOffUntilSetAndThenKept) {
+    store({u"Zsolt", u"Ádám", u"zoltán", u"Adam", u"ádám", u" Vezető blank"});
+    model.Beolvas(folder);
+    EXPECT_EQ(model.recordNumbers(), (Numbers{1, 2, 3, 4, 5, 6}));
+    model.setSort(0, Qt::AscendingOrder);
+    EXPECT_EQ(model.recordNumbers(), (Numbers{6, 4, 2, 5, 3, 1})); // 2 and 5 are equal: as in the file
+    model.setSort(0, Qt::DescendingOrder);
+    EXPECT_EQ(model.recordNumbers(), (Numbers{1, 3, 2, 5, 4, 6}));
+    model.Beolvas(folder);
+    EXPECT_EQ(model.recordNumbers(), (Numbers{1, 3, 2, 5, 4, 6}));
+    model.search(folder, u"d");
+    EXPECT_EQ(model.recordNumbers(), (Numbers{2, 5, 4}));
+    EXPECT_EQ(model.sortColumn(), 0);
+}
+
+TEST_F(ClientList, NumbersSortAsTexts) {
+    for (qint64 k = 1; k <= 100; ++k)
+        folder.store(clientNamed(QStringLiteral("A")), k);
+    model.setSort(2, Qt::AscendingOrder);
+    model.Beolvas(folder);
+    EXPECT_EQ(model.recordNumbers()[1], 2); // the blanks ahead put them in numeric order
+    model.cmdBeolvas_Click(folder);
+    EXPECT_EQ((Numbers{model.recordNumber(0), model.recordNumber(1), model.recordNumber(2), model.recordNumber(3)}),
+              (Numbers{1, 10, 100, 11}));
+}
+
+TEST_F(ClientList, AddressesSortInHungarianOrderToo) {
+    const struct {
+        const char16_t *town, *postcode;
+    } places[] = {{u"Szeged", u"6720"}, {u"Sopron", u"6720"}, {u"Berlin", u""}, {u"Ózd", u"3600"}};
+    qint64 k = 0;
+    for (const auto& place : places) {
+        ClientRec client = clientNamed(QStringLiteral("A"));
+        client.Helyseg.set(place.town);
+        client.Irsz.set(place.postcode);
+        folder.store(client, ++k);
+    }
+    model.Beolvas(folder);
+    model.setSort(1, Qt::AscendingOrder);
+    EXPECT_EQ(model.recordNumbers(), (Numbers{3, 4, 2, 1}));
+}
+
+TEST_F(ClientList, SortingCarriesTheSelectionAlong) {
+    store({u"C", u"A", u"B"});
+    model.Beolvas(folder);
+    const QPersistentModelIndex selected = model.index(0, 1);
+    model.setSort(0, Qt::AscendingOrder);
+    EXPECT_EQ(selected.row(), 2);
+    EXPECT_EQ(selected.column(), 1);
+}
+
+TEST_F(ClientList, RowsLeaveTheListAndComeBack) {
+    store({u"A", u"B", u"C", u"D", u"E"});
+    const QByteArray before = folder.bytes(QStringLiteral("nevek1.dat"));
+    model.Beolvas(folder);
+    const QPersistentModelIndex last = model.index(4, 0);
+    model.removeRows({2, 1, 2});
+    EXPECT_EQ(model.recordNumbers(), (Numbers{1, 4, 5}));
+    EXPECT_EQ(last.row(), 2); // a block goes without disturbing the others
+    model.removeRows({0, 2});
+    EXPECT_EQ(model.recordNumbers(), (Numbers{4}));
+    model.removeRows(QList<int>());
+    EXPECT_EQ(model.rowCount(), 1);
+    EXPECT_EQ(folder.bytes(QStringLiteral("nevek1.dat")), before);
+    model.Beolvas(folder);
+    EXPECT_EQ(model.rowCount(), 5);
+}
+
+TEST(ButtonRuleTest, BatchNeedsSeveralRowsAndAFormThatHasOne) {
+    EXPECT_FALSE(buttonRule(0, 0).batch);
+    EXPECT_FALSE(buttonRule(1, 0).batch);
+    EXPECT_EQ(buttonRule(1, 0).lbKijelolve, QString());
+    EXPECT_TRUE(buttonRule(2, 0).batch);
+    EXPECT_EQ(buttonRule(2, 0).lbKijelolve, QStringLiteral("2"));
+    EXPECT_FALSE(buttonRule(2, 4).batch);
+    EXPECT_EQ(buttonRule(2, 4).lbKijelolve, QString());
+}
+
+} // namespace
