@@ -7,11 +7,17 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <QLibraryInfo>
+#include <QTranslator>
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setApplicationVersion(QStringLiteral(TARLIMO_VERSION));
     const ProgramFolder folder(QApplication::applicationDirPath());
+    // Words of the toolkit's own (the file dialog's columns), where its translation is installed.
+    QTranslator toolkit;
+    if (toolkit.load(QStringLiteral("qtbase_hu"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QApplication::installTranslator(&toolkit);
     QApplication::setWindowIcon(QIcon(folder.file(QStringLiteral("tarlimo.png"))));
 
     QtPrintService printing(folder);

@@ -249,7 +249,7 @@ int ClientListModel::rowCount(const QModelIndex& parent) const {
 int ClientListModel::columnCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : 3; }
 
 QVariant ClientListModel::data(const QModelIndex& index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
+    if (!index.isValid()) return {};
     if (role == Qt::DisplayRole) return text(recordNumber(index.row()), index.column());
     if (role == Qt::TextAlignmentRole && index.column() == rec) return int(Qt::AlignRight | Qt::AlignVCenter);
     return {};

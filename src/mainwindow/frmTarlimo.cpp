@@ -139,9 +139,6 @@ void frmTarlimo::connectMenu() {
 
 void frmTarlimo::load() {
     finishInterruptedCommit(folder_);
-    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
-    resize(designSize.boundedTo(screen.size()));
-    move(screen.center() - rect().center());
     if (!folder_.isWritable())
         services_.prompts.tell(
             {Icon::information, QStringLiteral("Figyelem!"),
@@ -154,6 +151,10 @@ void frmTarlimo::load() {
     fillFonts();
     showPicturePlacement(tabs_.envelope, readRecord<Kepment>(folder_));
     showAll();
+    // Last, when the layouts know what is hidden: a size set earlier would be pushed up by it.
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    resize(designSize.boundedTo(screen.size()));
+    move(screen.center() - rect().center());
 }
 
 void frmTarlimo::restoreControls() {

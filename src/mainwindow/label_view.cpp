@@ -39,6 +39,9 @@ LabelView::LabelView(LabelTab& tab, const FormContext& context) : BoundView(cont
     note->setObjectName(QStringLiteral("Label5"));
     note->setWordWrap(true);
     note->setAlignment(Qt::AlignTop);
+    // A wrapped label guesses its height from a narrow width and would make the whole window higher.
+    note->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
+    note->setMinimumHeight(2 * note->fontMetrics().lineSpacing());
     grid->addWidget(note, 2, 0, 1, 3);
     grid->setColumnStretch(1, 1);
     grid->setColumnMinimumWidth(1, 200);
@@ -205,6 +208,7 @@ QGroupBox* LabelView::buildCustom() {
     auto* lines = new QVBoxLayout(box);
     for (int line = 0; line < 5; ++line)
         lines->addWidget(bindText(tab_.txEgyediCimke[static_cast<std::size_t>(line)], indexed("txEgyediCimke", line)));
+    box->hide(); // from the start, so that the window's least height never counts it
     layout->addWidget(box);
     layout->addStretch();
     onShow([this, box] { box->setVisible(tab_.chkEgyediCimke); });

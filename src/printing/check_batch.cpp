@@ -11,7 +11,7 @@ bool isClientNumber(int number) { return number >= 1 && number <= maxClientNumbe
 
 } // namespace
 
-Sheet checkSheet(Pen& pen, const Set& set, Feed feed) {
+Sheet checkSheet(Pen& pen, const Set& set, FormRun feed) {
     Sheet sheet;
     sheet.feed = feed;
     std::copy(set.chkNyomtatando.begin(), set.chkNyomtatando.end(), sheet.flags.begin());

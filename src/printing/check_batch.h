@@ -12,7 +12,7 @@
 inline QString trimmed(const QString& text) { return trimBlanks(text).toString(); }
 
 // The groups of items that the settings have ticked. If there is none of them at all, the outcome says so.
-Sheet checkSheet(Pen& pen, const Set& set, Feed feed);
+Sheet checkSheet(Pen& pen, const Set& set, FormRun feed);
 
 // The client's first stored amount in words, starred and fitted to the word rows of a check.
 WordRows batchWords(PrintDevice& device, std::int32_t amount, const Text<25>& font, int size);

@@ -10,10 +10,10 @@
 // struct and the position as members of its settings record. printItems walks any such table for any feed. A form that
 // needs more than these rows is better written as a function.
 
-// How the form goes through the printer, and from where its data come.
-enum class Feed { upright, uprightBatch, sideways, sidewaysBatch };
+// How a routine runs: how the form goes through the printer, and whether its data come from the tab or from clients.
+enum class FormRun { upright, uprightBatch, sideways, sidewaysBatch };
 
-constexpr bool isUpright(Feed feed) { return feed == Feed::upright || feed == Feed::uprightBatch; }
+constexpr bool isUpright(FormRun feed) { return feed == FormRun::upright || feed == FormRun::uprightBatch; }
 
 // Whole mm that a feed adds to a stored position.
 class Offset {
@@ -22,7 +22,7 @@ public:
     constexpr Offset(int upright, int sideways) : mm_{upright, upright, sideways, sideways} {}
     constexpr Offset(int upright, int uprightBatch, int sideways, int sidewaysBatch)
         : mm_{upright, uprightBatch, sideways, sidewaysBatch} {}
-    constexpr int in(Feed feed) const { return mm_[static_cast<std::size_t>(feed)]; }
+    constexpr int in(FormRun feed) const { return mm_[static_cast<std::size_t>(feed)]; }
 
 private:
     std::array<int, 4> mm_{};
@@ -30,7 +30,7 @@ private:
 
 // What the rows depend on beside page and record.
 struct Sheet {
-    Feed feed = Feed::upright;
+    FormRun feed = FormRun::upright;
     std::array<bool, 8> flags{}; // which groups of items print
     int extraX = 0;              // mm added to every x
 };
@@ -74,7 +74,7 @@ public:
         return item;
     }
     // in one feed at the row's own height.
-    constexpr Item orSkipLine(Feed atOwnHeight) const {
+    constexpr Item orSkipLine(FormRun atOwnHeight) const {
         Item item = orSkipLine();
         item.skipsAtOwnHeight_ = atOwnHeight;
         return item;
@@ -92,7 +92,7 @@ public:
         switch (step_) {
         case Step::font:
             return pen.SetFont((rec.*fontName_).trimmed(),
-                               rec.*(sheet.feed == Feed::uprightBatch ? sizeInUprightBatch_ : size_));
+                               rec.*(sheet.feed == FormRun::uprightBatch ? sizeInUprightBatch_ : size_));
         case Step::hold:
             return pen.PlaceHold(x(rec, sheet), y_ == nullptr ? std::optional<float>() : y(rec, sheet), page.*text_);
         case Step::text:
@@ -137,7 +137,7 @@ private:
     SizeField size_ = nullptr, sizeInUprightBatch_ = nullptr;
     int flag_ = -1; // none
     bool skipsLine_ = false;
-    std::optional<Feed> skipsAtOwnHeight_ = {};
+    std::optional<FormRun> skipsAtOwnHeight_ = {};
     bool Page::*condition_ = nullptr;
 };
 

@@ -130,12 +130,12 @@ constexpr Back backItems[] = {
 QString jobTitle() { return QStringLiteral("rozsaszin-csekk"); }
 
 // Sideways the page is left as it is, but that a single back stands upright on it.
-PageRequest pageRequest(Feed feed, Side side) {
+PageRequest pageRequest(FormRun feed, Side side) {
     if (isUpright(feed)) return dlLandscape;
     return side == Side::back ? PageRequest{1, {}, {}} : PageRequest{};
 }
 
-PrintOutcome printTab(const PrintDesk& desk, const PinkCheckTab& tab, Feed feed) {
+PrintOutcome printTab(const PrintDesk& desk, const PinkCheckTab& tab, FormRun feed) {
     Pen pen(desk, FailureWay::message, jobTitle());
     const auto set = readRecord<Set>(desk.folder);
     pen.SelectPrinter(set);
@@ -152,7 +152,7 @@ PrintOutcome printTab(const PrintDesk& desk, const PinkCheckTab& tab, Feed feed)
 }
 
 PrintOutcome printBatch(const PrintDesk& desk, const PinkCheckTab& tab, const std::vector<int>& numbers, Side side,
-                        Feed feed) {
+                        FormRun feed) {
     Pen pen(desk, FailureWay::message, jobTitle());
     pen.StartFromA4();
     const auto set = readRecord<Set>(desk.folder);
@@ -175,17 +175,17 @@ PrintOutcome printBatch(const PrintDesk& desk, const PinkCheckTab& tab, const st
 } // namespace
 
 PrintOutcome PrintAlloRCsekk(const PrintDesk& desk, const PinkCheckTab& tab) {
-    return printTab(desk, tab, Feed::upright);
+    return printTab(desk, tab, FormRun::upright);
 }
 
 PrintOutcome PrintFekvoRCsekk(const PrintDesk& desk, const PinkCheckTab& tab) {
-    return printTab(desk, tab, Feed::sideways);
+    return printTab(desk, tab, FormRun::sideways);
 }
 
 PrintOutcome PrintCsAlloRcsekk(const PrintDesk& desk, const PinkCheckTab& tab, const ListRows& rows) {
-    return printBatch(desk, tab, rows.selected, tab.side, Feed::uprightBatch);
+    return printBatch(desk, tab, rows.selected, tab.side, FormRun::uprightBatch);
 }
 
 PrintOutcome PrintCsFekvoRcsekk(const PrintDesk& desk, const PinkCheckTab& tab, const ListRows& rows) {
-    return printBatch(desk, tab, rows.selected, Side::front, Feed::sidewaysBatch);
+    return printBatch(desk, tab, rows.selected, Side::front, FormRun::sidewaysBatch);
 }

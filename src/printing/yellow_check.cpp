@@ -87,11 +87,11 @@ constexpr Row yellowCheckItems[] = {
     Row::next(&Page::noticeThird, &Set::Textjogcim_x, {7, 0}).flag(5),
     Row::next(&Page::title2, &Set::Textjogcim_x, {7, 0}).flag(5),
     Row::next(&Page::deadline, &Set::Textjogcim_x, {7, 0}).flag(5),
-    Row::text(&Page::name, &Set::Textcim_x1, {5, 0}, &Set::Textcim_y, nameDy).flag(2).orSkipLine(Feed::upright),
+    Row::text(&Page::name, &Set::Textcim_x1, {5, 0}, &Set::Textcim_y, nameDy).flag(2).orSkipLine(FormRun::upright),
     Row::next(&Page::settlement, &Set::Textcim_x1, {5, 0}).flag(3),
     Row::next(&Page::street, &Set::Textcim_x1, {5, 0}).flag(3),
     Row::text(&Page::postcode, &Set::Textcim_x1, {5, 0}, &Set::Textirsz_y, {0, 0}).flag(3),
-    Row::text(&Page::name, &Set::Textcim_x2, {5, 0}, &Set::Textcim_y, nameDy).flag(2).orSkipLine(Feed::upright),
+    Row::text(&Page::name, &Set::Textcim_x2, {5, 0}, &Set::Textcim_y, nameDy).flag(2).orSkipLine(FormRun::upright),
     Row::next(&Page::settlement, &Set::Textcim_x2, {5, 0}).flag(3),
     Row::next(&Page::street, &Set::Textcim_x2, {5, 0}).flag(3),
     Row::text(&Page::postcode, &Set::Textcim_x2, {5, 0}, &Set::Textirsz_y, {0, 0}).flag(3),
@@ -99,15 +99,15 @@ constexpr Row yellowCheckItems[] = {
 
 QString jobTitle() { return QStringLiteral("sarga-csekk"); }
 
-PageRequest pageRequest(Feed feed) { return isUpright(feed) ? dlLandscape : PageRequest{1, {}, QSizeF(210, 105)}; }
+PageRequest pageRequest(FormRun feed) { return isUpright(feed) ? dlLandscape : PageRequest{1, {}, QSizeF(210, 105)}; }
 
-Sheet yellowSheet(Pen& pen, const Set& set, Feed feed) {
+Sheet yellowSheet(Pen& pen, const Set& set, FormRun feed) {
     Sheet sheet = checkSheet(pen, set, feed);
     if (isUpright(feed)) sheet.extraX = set.TextVkorrekcio;
     return sheet;
 }
 
-PrintOutcome printTab(const PrintDesk& desk, const YellowCheckTab& tab, Feed feed) {
+PrintOutcome printTab(const PrintDesk& desk, const YellowCheckTab& tab, FormRun feed) {
     Pen pen(desk, FailureWay::silent, jobTitle());
     pen.StartFromA4();
     if (trimmed(tab.txNev).isEmpty()) {
@@ -125,7 +125,7 @@ PrintOutcome printTab(const PrintDesk& desk, const YellowCheckTab& tab, Feed fee
 }
 
 void printBatch(Pen& pen, const PrintDesk& desk, const YellowCheckTab& tab, const Set& set,
-                const std::vector<int>& numbers, Feed feed) {
+                const std::vector<int>& numbers, FormRun feed) {
     const Sheet sheet = yellowSheet(pen, set, feed);
     printClients(pen, desk.folder, numbers, [&](const Client& client) {
         YellowCheckPage page = pageOfClient(client, tab, set);
@@ -142,11 +142,11 @@ void printBatch(Pen& pen, const PrintDesk& desk, const YellowCheckTab& tab, cons
 } // namespace
 
 PrintOutcome PrintAlloCsekk(const PrintDesk& desk, const YellowCheckTab& tab) {
-    return printTab(desk, tab, Feed::upright);
+    return printTab(desk, tab, FormRun::upright);
 }
 
 PrintOutcome PrintFekvoCsekk(const PrintDesk& desk, const YellowCheckTab& tab) {
-    return printTab(desk, tab, Feed::sideways);
+    return printTab(desk, tab, FormRun::sideways);
 }
 
 PrintOutcome PrintCsAlloCsekk(const PrintDesk& desk, const YellowCheckTab& tab, const ListRows& rows,
@@ -156,7 +156,7 @@ PrintOutcome PrintCsAlloCsekk(const PrintDesk& desk, const YellowCheckTab& tab, 
     const auto set = readRecord<Set>(desk.folder);
     pen.SelectPrinter(set);
     if (dialog == PrintDialog::show) pen.ShowPrinter();
-    printBatch(pen, desk, tab, set, set.chkAutoPrint != 0 ? rows.all : rows.selected, Feed::uprightBatch);
+    printBatch(pen, desk, tab, set, set.chkAutoPrint != 0 ? rows.all : rows.selected, FormRun::uprightBatch);
     return pen.outcome();
 }
 
@@ -165,7 +165,7 @@ PrintOutcome PrintCsFekvoCsekk(const PrintDesk& desk, const YellowCheckTab& tab,
     pen.StartFromA4();
     const auto set = readRecord<Set>(desk.folder);
     pen.SelectPrinter(set);
-    printBatch(pen, desk, tab, set, rows.selected, Feed::sidewaysBatch);
+    printBatch(pen, desk, tab, set, rows.selected, FormRun::sidewaysBatch);
     return pen.outcome();
 }
 
