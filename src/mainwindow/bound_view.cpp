@@ -1,6 +1,6 @@
 #include "mainwindow/bound_view.h"
 
-#include "mainwindow/entry_combo.h"
+#include "controls/entry_combo.h"
 
 #include <QCheckBox>
 #include <QLabel>

@@ -126,8 +126,7 @@ void ClientListModel::search(const ProgramFolder& folder, QStringView text) {
 template<class Choose>
 void ClientListModel::refill(const ProgramFolder& folder, Numbers numbers, Choose choose) {
     beginResetModel();
-    clients_ = {}; // so that old and new file are never in memory at once
-    clients_ = RecordFile<ClientRec>(folder).readAll();
+    RecordFile<ClientRec>(folder).readAllInto(clients_);
     numbers_ = numbers;
     rows_ = choose();
     sortRows();

@@ -1,6 +1,6 @@
 #include "mainwindow/form_view.h"
 
-#include "mainwindow/entry_combo.h"
+#include "controls/entry_combo.h"
 
 #include <QAbstractButton>
 #include <QHBoxLayout>

@@ -1,4 +1,4 @@
-#include "mainwindow/entry_combo.h"
+#include "controls/entry_combo.h"
 #include "mainwindow/envelope_label_rules.h"
 #include "mainwindow/form_views.h"
 #include "records/record_file.h"

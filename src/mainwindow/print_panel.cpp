@@ -1,6 +1,6 @@
 #include "mainwindow/print_panel.h"
 
-#include "mainwindow/entry_combo.h"
+#include "controls/entry_combo.h"
 #include "records/record_file.h"
 #include "settings/general_settings.h"
 

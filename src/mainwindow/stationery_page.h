@@ -8,8 +8,8 @@
 #include <vector>
 
 // The picture of a form with controls lying on it, all placed in millimetres of the real stationery, so that one table
-// of positions serves any window size and screen density. The form keeps its proportions. The picture is loaded when it
-// is first shown; a missing one leaves a white page with a thin frame that names the file.
+// of positions serves any window size and screen density. The form keeps its proportions. The picture is read when it
+// is shown; a missing one leaves a white page with a thin frame that names the file.
 class StationeryPage : public QWidget {
     Q_OBJECT
 public:
@@ -44,8 +44,7 @@ private:
     const ProgramFolder& folder_;
     QSizeF sizeMm_;
     QString fileName_;
-    QImage original_;
-    QPixmap scaled_;
-    bool loaded_ = false;
+    QPixmap picture_;   // null if the file is missing
+    QSize pictureSize_; // for which it was read, in device pixels
     std::vector<Placed> placed_;
 };

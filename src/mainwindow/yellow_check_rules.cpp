@@ -1,6 +1,7 @@
 #include "mainwindow/yellow_check_rules.h"
 
 #include "mainwindow/tab_words.h"
+#include "printing/yellow_check.h"
 
 void txOsszeg_Change(YellowCheckTab& tab, const Set& set, PrintDevice& device) {
     const WordLines words =
@@ -32,7 +33,7 @@ namespace {
 
 void showDeadline(YellowCheckTab& tab, const ClientRec& client, const Set& set) {
     if (set.chkFizHat) {
-        tab.pouredDeadline = set.txtFizHat.trimmed() + u' ' + client.FizHatIdo.trimmed();
+        tab.pouredDeadline = deadlineText(set, client);
         tab.txtFizHatIdo = tab.pouredDeadline;
         tab.Kozlemeny2 = tab.pouredDeadline;
     } else if (!tab.pouredDeadline.isEmpty() && tab.txtFizHatIdo == tab.pouredDeadline) {

@@ -32,9 +32,15 @@ bool RawRecordFile::write(qint64 k, const char* record) {
 }
 
 QByteArray RawRecordFile::readAll() {
-    if (!file_.isOpen() || !file_.seek(0)) return {};
-    QByteArray bytes(static_cast<qsizetype>(count() * recordLength_), Qt::Uninitialized);
+    QByteArray bytes;
+    readAllInto(bytes);
+    return bytes;
+}
+
+void RawRecordFile::readAllInto(QByteArray& bytes) {
+    const bool readable = file_.isOpen() && file_.seek(0);
+    bytes.resize(readable ? static_cast<qsizetype>(count() * recordLength_) : 0);
+    if (bytes.isEmpty()) return;
     bytes.truncate(static_cast<qsizetype>(std::max<qint64>(0, file_.read(bytes.data(), bytes.size()))));
     bytes.truncate(bytes.size() - bytes.size() % static_cast<qsizetype>(recordLength_));
-    return bytes;
 }

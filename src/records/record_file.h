@@ -26,6 +26,9 @@ public:
     bool write(qint64 k, const char* record);
     // The bytes of all whole records, in one read.
     QByteArray readAll();
+    // The same into `bytes`, whose memory is used again: for large files, first use of memory takes longer than
+    // reading.
+    void readAllInto(QByteArray& bytes);
 
 private:
     QFile file_;
@@ -50,6 +53,7 @@ public:
     }
     bool write(qint64 k, const Rec& record) { return file_.write(k, reinterpret_cast<const char*>(&record)); }
     QByteArray readAll() { return file_.readAll(); }
+    void readAllInto(QByteArray& bytes) { file_.readAllInto(bytes); }
 
 private:
     RawRecordFile file_;

@@ -1,3 +1,4 @@
+#include "controls/entry_combo.h"
 #include "settings/receipt_layouts.h"
 #include "settings/setup/page_builder.h"
 #include "setup_fixture.h"
@@ -77,9 +78,10 @@ TEST(PageBuilder, FactoryValuesMayGoToTheBoxesFirstAndThenBeStoredWithTheRest) {
     EXPECT_EQ(set.txtTertiVisszakuldNev.trimmed(), QStringLiteral("Most írt név"));
 }
 
-TEST(FontBox, IgnoresTheWheelUntilItHasTheFocus) {
-    FontBox box({QStringLiteral("Arial"), QStringLiteral("Courier")});
+TEST(EntryCombo, KeepsItsTextWhateverTheListAndTheWheelDo) {
+    EntryCombo box;
     box.setEditText(QStringLiteral("Egyedi"));
+    box.offer({QStringLiteral("Arial"), QStringLiteral("Courier")});
     QWheelEvent wheel({5, 5}, {5, 5}, {0, 0}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
     QCoreApplication::sendEvent(&box, &wheel);
     EXPECT_EQ(box.currentText(), QStringLiteral("Egyedi"));

@@ -1,27 +1,9 @@
 #include "settings/setup/setting_boxes.h"
 
+#include "controls/entry_combo.h"
+
 #include <QCheckBox>
 #include <QLineEdit>
-#include <QWheelEvent>
-
-FontBox::FontBox(const QStringList& fonts, QWidget* parent) : QComboBox(parent) {
-    setEditable(true);
-    setCompleter(nullptr);
-    setInsertPolicy(NoInsert);
-    setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
-    setMinimumContentsLength(16);
-    setMaxVisibleItems(20);
-    setFocusPolicy(Qt::StrongFocus); // not by the wheel
-    addItems(fonts);
-    clearEditText();
-}
-
-void FontBox::wheelEvent(QWheelEvent* event) {
-    if (hasFocus())
-        QComboBox::wheelEvent(event);
-    else
-        event->ignore();
-}
 
 QValidator::State PointValidator::validate(QString& input, int&) const {
     input.replace(u',', u'.');
@@ -45,10 +27,18 @@ QLineEdit* makeTextBox(const BoxLook& look, QWidget* parent) {
     return box;
 }
 
+QComboBox* makeFontBox(const QStringList& fonts, QWidget* parent) {
+    auto* box = new EntryCombo(parent);
+    box->setMinimumContentsLength(16);
+    box->setMaxVisibleItems(20);
+    box->offer(fonts);
+    return box;
+}
+
 QWidget* makeUnnamedBox(const BoxLook& look, const QStringList& fonts, QWidget* parent) {
     switch (look.kind) {
     case BoxKind::font:
-        return new FontBox(fonts, parent);
+        return makeFontBox(fonts, parent);
     case BoxKind::tick:
         return new QCheckBox(QString::fromUtf16(look.label), parent);
     case BoxKind::text:

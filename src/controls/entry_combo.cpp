@@ -1,4 +1,4 @@
-#include "mainwindow/entry_combo.h"
+#include "controls/entry_combo.h"
 
 #include <QLineEdit>
 #include <QPainter>
