@@ -22,6 +22,13 @@ void EntryCombo::offer(const QStringList& entries) {
     setEditText(text);
 }
 
+void EntryCombo::showText(const QString& text) {
+    const QSignalBlocker block(this);
+    const QSignalBlocker blockEdit(lineEdit());
+    setCurrentIndex(findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive));
+    setEditText(text);
+}
+
 void EntryCombo::lieOnPaper() {
     onPaper_ = true;
     lineEdit()->setFrame(false);

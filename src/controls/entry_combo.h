@@ -21,6 +21,9 @@ public:
 
     // Replaces the list and keeps the text of the box. No signal.
     void offer(const QStringList& entries);
+    // Shows a text, and moves the list to its entry if there is one, so that the arrow keys go on from there. No
+    // signal.
+    void showText(const QString& text);
     // Drawn like the text boxes on the picture of a form, whose rows are lower than a combo box of the style.
     void lieOnPaper();
 

@@ -45,12 +45,12 @@ Client blankClient() {
     return client;
 }
 
-// The amount without blanks; nothing if it is none.
+// The amount, given without blanks; nothing if it is none. "Ft" and the ",-" of round sums may stand behind it.
 std::optional<std::int32_t> forints(QByteArrayView text) {
     if (text.isEmpty()) return 0;
-    for (const QByteArrayView currency : {"ft.", "ft"})
-        if (text.size() > currency.size() && text.last(currency.size()).compare(currency, Qt::CaseInsensitive) == 0)
-            text.chop(currency.size());
+    for (const QByteArrayView ending : {"ft.", "ft", ",-"})
+        if (text.size() > ending.size() && text.last(ending.size()).compare(ending, Qt::CaseInsensitive) == 0)
+            text.chop(ending.size());
     std::int32_t value = 0;
     const auto [end, error] = std::from_chars(text.begin(), text.end(), value);
     if (error != std::errc() || end != text.end() || value < 0) return std::nullopt;

@@ -49,8 +49,17 @@ void ClientListView::keyPressEvent(QKeyEvent* event) {
     if (changed && currentIndex().isValid()) Q_EMIT rowClicked(currentIndex().row());
 }
 
+void ClientListView::mousePressEvent(QMouseEvent* event) {
+    pressed_ = selectionModel()->selection();
+    QTreeView::mousePressEvent(event);
+}
+
 void ClientListView::mouseReleaseEvent(QMouseEvent* event) {
     QTreeView::mouseReleaseEvent(event);
-    const QModelIndex index = indexAt(event->position().toPoint());
-    if (event->button() == Qt::LeftButton && index.isValid()) Q_EMIT rowClicked(index.row());
+    if (event->button() != Qt::LeftButton) return;
+    // A drag that ends below the last row has selected rows all the same.
+    QModelIndex index = indexAt(event->position().toPoint());
+    const QItemSelection selected = selectionModel()->selection();
+    if (!index.isValid() && !selected.isEmpty() && selected != pressed_) index = currentIndex();
+    if (index.isValid()) Q_EMIT rowClicked(index.row());
 }

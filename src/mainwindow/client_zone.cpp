@@ -47,7 +47,7 @@ ClientZone::ClientZone(const ProgramFolder& folder, QWidget* parent)
     connect(view_, &ClientListView::rowClicked, this, &ClientZone::rowClicked);
     connect(view_, &ClientListView::deletePressed, this, &ClientZone::removeSelected);
     connect(view_->header(), &QHeaderView::sectionClicked, this, &ClientZone::sortBy);
-    connect(order_, &QCheckBox::toggled, this, [this] { sortBy(std::max(0, model_.sortColumn())); });
+    connect(order_, &QCheckBox::toggled, this, [this] { sortBy(model_.sortColumn()); });
 }
 
 QPushButton* ClientZone::addButton(const char* name, const char* caption, const char* tooltip) {

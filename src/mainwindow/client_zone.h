@@ -29,7 +29,6 @@ public:
     bool isAscending() const;
     // Restores the stored order; ticked, it switches sorting on.
     void setAscending(bool ascending);
-    void focusList() { view_->setFocus(); }
 
 Q_SIGNALS:
     void rowClicked(int row);

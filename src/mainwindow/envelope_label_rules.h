@@ -16,6 +16,7 @@ void reload(EnvelopeTab& tab, const boritek& set);
 struct LabelGrid {
     int columns = 0;
     int rows = 0;
+    friend bool operator==(const LabelGrid&, const LabelGrid&) = default;
 };
 // The sheet that the ticks show; its first columns * rows places are on view.
 LabelGrid labelGrid(const LabelTab& tab);

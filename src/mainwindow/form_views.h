@@ -1,5 +1,6 @@
 #pragma once
 
+#include "mainwindow/envelope_label_rules.h"
 #include "mainwindow/form_view.h"
 #include "printing/form_tabs.h"
 #include "prompts/prompts.h"
@@ -93,6 +94,7 @@ private:
     QGroupBox* buildPreview();
     QGroupBox* buildCustom();
     void showGrid();
+    QFont lineFont(std::size_t line) const;
     void cmbBetutipusok_Click();
     void cmdCimkeMeretRogzites_Click();
 
@@ -100,6 +102,7 @@ private:
     QStringList fonts_;
     QStringList sizes_;
     QGridLayout* cells_ = nullptr;
+    LabelGrid shownGrid_;
 };
 
 class DocumentReceiptView : public FormView {

@@ -22,6 +22,7 @@
 #include <QGuiApplication>
 #include <QProgressBar>
 #include <QScreen>
+#include <QScrollArea>
 #include <QSignalBlocker>
 #include <QSplitter>
 #include <QStatusBar>
@@ -73,6 +74,7 @@ frmTarlimo::frmTarlimo(const ProgramFolder& folder, const WindowServices& servic
     });
     connect(clients_, &ClientZone::rowClicked, this, &frmTarlimo::rowClicked);
     connect(clients_, &ClientZone::deletePressed, this, &frmTarlimo::deleteClient);
+    connect(panel_, &PrintPanel::deviceSelected, this, &frmTarlimo::followDefault);
     connect(panel_, &PrintPanel::printPressed, this, [this] { press(Press::single); });
     connect(panel_, &PrintPanel::batchPressed, this, [this] { press(Press::batch); });
     connect(qGuiApp, &QGuiApplication::commitDataRequest, this, &frmTarlimo::storeState);
@@ -97,7 +99,7 @@ void frmTarlimo::buildTabs() {
         if (auto* form = qobject_cast<FormView*>(view)) form->page()->setObjectName(QLatin1String(tabRows[tab].page));
         SSTab1_->addTab(view, QString::fromUtf8(tabRows[tab].caption));
     }
-    connect(yellowCheck_, &YellowCheckView::searchWanted, this, &frmTarlimo::searchList);
+    connect(yellowCheck_, &YellowCheckView::searchWanted, this, [this](const QString& text) { searchList(text, 0); });
     connect(cashOnDelivery, &CashOnDeliveryView::partiesSwapped, this, &frmTarlimo::swapParties);
     connect(labels_, &LabelView::tells, this, [this](const Message& message) { services_.prompts.tell(message); });
 }
@@ -116,7 +118,12 @@ void frmTarlimo::buildLayout() {
     splitter->setStretchFactor(0, 1);
     splitter->setStretchFactor(1, 0);
     splitter->setSizes({designSize.height() - 270, 200});
-    setCentralWidget(splitter);
+    // On a screen smaller than the controls need, the window scrolls.
+    auto* scroll = new QScrollArea;
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setWidgetResizable(true);
+    scroll->setWidget(splitter);
+    setCentralWidget(scroll);
     progress_->setMaximumWidth(220);
     progress_->hide();
     statusBar()->addPermanentWidget(progress_);
@@ -138,7 +145,10 @@ void frmTarlimo::connectMenu() {
 }
 
 void frmTarlimo::load() {
-    finishInterruptedCommit(folder_);
+    if (!finishInterruptedCommit(folder_))
+        services_.prompts.tell({Icon::information, QStringLiteral("Figyelem!"),
+                                QStringLiteral("Az ügyfelek adatbázisának cseréje legutóbb félbeszakadt,\nés nem "
+                                               "fejezhető be. A korábbi adatbázis maradt meg.")});
     if (!folder_.isWritable())
         services_.prompts.tell(
             {Icon::information, QStringLiteral("Figyelem!"),
@@ -162,9 +172,10 @@ void frmTarlimo::restoreControls() {
     panel_->showPrinter(set.lbPrintNo);
     restoreTabs(tabs_, set);
     if (set.chkBefAzonMasolasa) chkBefAzonMasolasa_Click(tabs_.yellowCheck);
-    opAllando_Click(tabs_.pinkCheck, readRecord<SetRcsekk>(folder_));
+    if (set.opAllando[0] || set.opAllando[1]) opAllando_Click(tabs_.pinkCheck, readRecord<SetRcsekk>(folder_));
     clients_->setAscending(set.chkListaSorren != 0);
     panel_->selectDevice(set.opPrinter_1);
+    followDefault();
     const int tab = set.SSTab1Tab >= 0 && set.SSTab1Tab < tabCount ? static_cast<int>(set.SSTab1Tab) : 0;
     SSTab1_->setCurrentIndex(tab);
     tabClicked(tab);
@@ -240,7 +251,7 @@ void frmTarlimo::rowClicked(int row) {
     applyButtonRule();
     pour({RecordFile<ClientRec>(folder_).read(number), RecordFile<TwinRec>(folder_).read(number)});
     // The click wrote the name, and a ticked search follows the name.
-    if (tabs_.yellowCheck.Check1) searchList(tabs_.yellowCheck.txNev);
+    if (tabs_.yellowCheck.Check1) searchList(tabs_.yellowCheck.txNev, rekordszam_);
 }
 
 void frmTarlimo::pour(const Client& client) {
@@ -255,13 +266,18 @@ void frmTarlimo::applyButtonRule() {
     clients_->showCount(rule.lbKijelolve);
 }
 
-void frmTarlimo::searchList(const QString& text) {
-    clients_->search(text, rekordszam_);
+void frmTarlimo::searchList(const QString& text, int keep) {
+    clients_->search(text, keep);
     applyButtonRule();
 }
 
 void frmTarlimo::swapParties() {
     chkCimzettCsereUlap_Click(tabs_.cashOnDelivery, shown_.client, readRecord<SetRcsekk>(folder_));
+}
+
+// From here on the device is the system's default one, until a routine selects another.
+void frmTarlimo::followDefault() {
+    if (panel_->isSystemDefault()) device_.setTrackDefault(true);
 }
 
 void frmTarlimo::press(Press press) {
@@ -274,7 +290,8 @@ void frmTarlimo::press(Press press) {
 
 void frmTarlimo::report(const PrintOutcome& outcome) {
     if (outcome.pages == 0) {
-        statusBar()->showMessage(QStringLiteral("Nem készült nyomat. ") + outcome.trouble);
+        const QString reason = outcome.trouble.isEmpty() ? QStringLiteral("Nincs kijelölt ügyfél.") : outcome.trouble;
+        statusBar()->showMessage(QStringLiteral("Nem készült nyomat. ") + reason);
         return;
     }
     const QString pdf = services_.lastPdf();

@@ -46,10 +46,12 @@ private:
     void rowClicked(int row);
     void pour(const Client& client);
     void applyButtonRule();
-    void searchList(const QString& text);
+    // `keep` is the client whose row is selected again; 0 for none.
+    void searchList(const QString& text, int keep);
     void swapParties();
     void showAll();
 
+    void followDefault();
     void press(Press press);
     void report(const PrintOutcome& outcome);
     void deleteClient();

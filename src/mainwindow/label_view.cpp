@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollArea>
 
 namespace {
 
@@ -103,10 +104,7 @@ QGroupBox* LabelView::buildFonts() {
         grid->addWidget(size, line, 2);
         font->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
         size->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-        const auto showSample = [this, index, sample] {
-            sample->setFont(
-                QFont(tab_.ComboBetuTipus1[index], std::max<int>(6, leadingI16(tab_.ComboBetuSize[index]))));
-        };
+        const auto showSample = [this, index, sample] { sample->setFont(lineFont(index)); };
         connect(font, &QComboBox::editTextChanged, sample, showSample);
         connect(size, &QComboBox::editTextChanged, sample, showSample);
     }
@@ -165,6 +163,8 @@ QGroupBox* LabelView::buildGrid() {
 
 void LabelView::showGrid() {
     const LabelGrid grid = labelGrid(tab_);
+    if (grid == shownGrid_) return; // a click on a client must not lay out forty boxes anew
+    shownGrid_ = grid;
     for (int cell = 0; cell < 40; ++cell) {
         auto* tick = findChild<QAbstractButton*>(QStringLiteral("chkCimke1_%1").arg(cell + 1));
         tick->setVisible(cell < grid.columns * grid.rows);
@@ -172,9 +172,24 @@ void LabelView::showGrid() {
     }
 }
 
+// Font of a label line for the screen; sizes that no label has, and no size, are shown in one that can be read.
+QFont LabelView::lineFont(std::size_t line) const {
+    const int size = leadingI16(tab_.ComboBetuSize[line]);
+    QFont shown = font();
+    if (const QString name = trimBlanks(tab_.ComboBetuTipus1[line]).toString(); !name.isEmpty()) shown.setFamily(name);
+    if (size > 0) shown.setPointSize(std::clamp(size, 6, 48));
+    return shown;
+}
+
 QGroupBox* LabelView::buildPreview() {
     QGroupBox* box = frame("Frame9", "Kijelölt Címzett a listában - Cimke minta");
-    auto* lines = new QVBoxLayout(box);
+    // In a scroll area: a large font must not make the window higher.
+    auto* area = new QScrollArea;
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setWidget(new QWidget);
+    (new QVBoxLayout(box))->addWidget(area);
+    auto* lines = new QVBoxLayout(area->widget());
     struct Line {
         const QString& value;
         const char* name;
@@ -187,10 +202,7 @@ QGroupBox* LabelView::buildPreview() {
     std::size_t index = 0;
     for (const Line& row : rows) {
         QLabel* label = bindLabel(row.value, row.name);
-        onShow([this, label, line = index] {
-            const int size = leadingI16(tab_.ComboBetuSize[line]);
-            if (size > 0) label->setFont(QFont(trimBlanks(tab_.ComboBetuTipus1[line]).toString(), size));
-        });
+        onShow([this, label, line = index] { label->setFont(lineFont(line)); });
         lines->addWidget(label);
         ++index;
     }

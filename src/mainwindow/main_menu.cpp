@@ -2,7 +2,7 @@
 
 namespace {
 
-enum class Built { yes, not_yet };
+enum class Built { yes, no };
 
 struct Entry {
     const char* menu; // name of the menu, empty for an entry of the bar itself
@@ -13,17 +13,17 @@ struct Entry {
 
 constexpr Entry entries[] = {
     {"", "mnuKilep", "&Kilépés", Built::yes},
-    {"", "mnuUjcimzett", "&Új címzett", Built::not_yet},
+    {"", "mnuUjcimzett", "&Új címzett", Built::no},
     {"", "mnuSetup", "&Beállítások", Built::yes},
     {"mnuAdatbazis", "mnuAdatCsvbol", "Adatbázis importálása &CSV fájlból", Built::yes},
     {"mnuAdatbazis", "mnuAdatbazisTorles", "&Adatbázis törlése", Built::yes},
-    {"mnuAdatbazis", "mnuAutoBeolvasas", "A&utomatikus beolvasás", Built::not_yet},
-    {"mnuAdatbazis", "mnuMentCSVbe", "Adatbázis &mentése CSV fájlba", Built::not_yet},
+    {"mnuAdatbazis", "mnuAutoBeolvasas", "A&utomatikus beolvasás", Built::no},
+    {"mnuAdatbazis", "mnuMentCSVbe", "Adatbázis &mentése CSV fájlba", Built::no},
     {"mnuAdatbazis", "mnuImportHelp", "&Segítség az importáláshoz...", Built::yes},
-    {"mnuAdatbazis", "mnuKonertal", "Adastbázis &konvertálása előző verzióból", Built::not_yet},
-    {"mnuFeladojegyzek", "mnuUresFeladojegyzek", "Üres nyomtatvány", Built::not_yet},
-    {"mnuFeladojegyzek", "mnuCimzettekNyomtatasa", "&Címzettek nyomtatása", Built::not_yet},
-    {"mnuFeladojegyzek", "mnuFeladojegyzekSetup", "&Beállítások", Built::not_yet},
+    {"mnuAdatbazis", "mnuKonertal", "Adastbázis &konvertálása előző verzióból", Built::no},
+    {"mnuFeladojegyzek", "mnuUresFeladojegyzek", "Üres nyomtatvány", Built::no},
+    {"mnuFeladojegyzek", "mnuCimzettekNyomtatasa", "&Címzettek nyomtatása", Built::no},
+    {"mnuFeladojegyzek", "mnuFeladojegyzekSetup", "&Beállítások", Built::no},
     {"", "mnuAbout", "Névjegy", Built::yes},
 };
 

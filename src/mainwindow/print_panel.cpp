@@ -133,6 +133,7 @@ void PrintPanel::storeDevice() {
     printers_->setEnabled(!systemDefault);
     showDeviceName();
     updateRecord<Set>(folder_, [systemDefault](Set& set) { set.opPrinter_1 = systemDefault; });
+    Q_EMIT deviceSelected();
 }
 
 Feed PrintPanel::feed() const { return upright_->isChecked() ? Feed::upright : Feed::sideways; }
@@ -164,9 +165,8 @@ void PrintPanel::showButton(bool batch) {
     batch_->setVisible(batch);
 }
 
-bool PrintPanel::isBatch() const { return !batch_->isHidden(); }
-
 void PrintPanel::setButtonsEnabled(bool enabled) {
     print_->setEnabled(enabled);
     batch_->setEnabled(enabled);
+    if (enabled) (batch_->isHidden() ? print_ : batch_)->setFocus();
 }

@@ -31,10 +31,11 @@ public:
 
     // One form, or a batch for several clients with their number beside the button.
     void showButton(bool batch);
-    bool isBatch() const;
+    // Enabled again, the button in view takes the focus back.
     void setButtonsEnabled(bool enabled);
 
 Q_SIGNALS:
+    void deviceSelected();
     void printPressed();
     void batchPressed();
 

@@ -37,8 +37,8 @@ void showDeadline(YellowCheckTab& tab, const ClientRec& client, const Set& set) 
         tab.txtFizHatIdo = tab.pouredDeadline;
         tab.Kozlemeny2 = tab.pouredDeadline;
     } else if (!tab.pouredDeadline.isEmpty() && tab.txtFizHatIdo == tab.pouredDeadline) {
-        // Deadlines have been switched off since the last click: that client's must not print for this one. The value
-        // of the last one poured is kept, by which a batch still knows it in the notice.
+        // Deadlines have been switched off since the last click: that client's must not print as this one's. The notice
+        // stays on view; a batch still knows it by the poured text and leaves it out.
         tab.txtFizHatIdo.clear();
     }
 }

@@ -48,6 +48,8 @@ QByteArray pdfOf(const PrintJob& job, FontBook& fonts) {
     buffer.open(QIODevice::WriteOnly);
     QPdfWriter writer(&buffer);
     writer.setTitle(job.title);
+    // A dot is a paper unit, so no text needs a scale of its own: less to write for each.
+    writer.setResolution(static_cast<int>(paperUnitsPerInch));
     paintJob(job, writer, fonts);
     buffer.close();
     correctBoxes(pdf, job.pages);

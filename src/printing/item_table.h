@@ -91,7 +91,7 @@ public:
         if (flag_ >= 0 && !sheet.flags[static_cast<std::size_t>(flag_)]) return printSkipped(pen, rec, sheet);
         switch (step_) {
         case Step::font:
-            return pen.SetFont((rec.*fontName_).trimmed(),
+            return pen.SetFont((rec.*fontName_).stored(),
                                rec.*(sheet.feed == FormRun::uprightBatch ? sizeInUprightBatch_ : size_));
         case Step::hold:
             return pen.PlaceHold(x(rec, sheet), y_ == nullptr ? std::optional<float>() : y(rec, sheet), page.*text_);

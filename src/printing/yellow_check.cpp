@@ -36,11 +36,12 @@ YellowCheckPage pageOfTab(const YellowCheckTab& tab) {
     return page;
 }
 
-// A deadline that the last click poured into the second notice row is that client's; every page takes its own. A text
-// that the clerk typed there is meant for all.
+// A deadline that the last click poured into the second notice row is that client's; every page takes its own, or none
+// where deadlines have been switched off since. A text that the clerk typed there is meant for all.
 QString noticeInBatch(const YellowCheckTab& tab, const Set& set, const ClientRec& client) {
     const bool poured = !tab.Kozlemeny2.isEmpty() && tab.Kozlemeny2 == tab.pouredDeadline;
-    return set.chkFizHat && poured ? deadlineText(set, client) : tab.Kozlemeny2;
+    if (!poured) return tab.Kozlemeny2;
+    return set.chkFizHat ? deadlineText(set, client) : QString();
 }
 
 YellowCheckPage pageOfClient(const Client& record, const YellowCheckTab& tab, const Set& set) {

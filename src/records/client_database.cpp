@@ -107,6 +107,10 @@ bool finish(const PairPaths& paths) {
     return finished;
 }
 
+// A swap that was refused half-way may hold the only copy of the clients: nothing is read or replaced before it is
+// done.
+bool settle(const PairPaths& paths) { return !QFile::exists(paths.marker) || finish(paths); }
+
 template<class Rec>
 std::optional<QByteArray> wholeRecords(const ProgramFolder& folder) {
     QByteArray records = RecordFile<Rec>(folder).readAll();
@@ -125,6 +129,7 @@ QByteArrayView bytesOf(const auto& record) {
 qint64 clientCount(const ProgramFolder& folder) { return RecordFile<ClientRec>(folder).count(); }
 
 std::optional<ClientPair> readClientPair(const ProgramFolder& folder) {
+    if (!settle(PairPaths(folder))) return std::nullopt;
     std::optional<QByteArray> clients = wholeRecords<ClientRec>(folder);
     std::optional<QByteArray> twins = wholeRecords<TwinRec>(folder);
     if (!clients || !twins) return std::nullopt;
@@ -138,7 +143,7 @@ ClientReplacement::ClientReplacement(const ProgramFolder& folder)
     , twins_(PairPaths(folder).nextTwins) {
     // Unbuffered: QSaveFile looks at the errors of its own writes only, not at those of a buffer flushed behind it.
     constexpr auto mode = QIODevice::WriteOnly | QIODevice::Unbuffered;
-    whole_ = clients_.open(mode) && twins_.open(mode);
+    whole_ = settle(PairPaths(folder)) && clients_.open(mode) && twins_.open(mode);
 }
 
 void ClientReplacement::append(const Client& client) {

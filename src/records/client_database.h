@@ -56,7 +56,7 @@ private:
 
 // Finishes or clears away what a killed process left of a commit. Run once at start, before anyone opens the pair.
 // False: the new pair that was to be finished is damaged or can't be put in place, and the old one stands.
-bool finishInterruptedCommit(const ProgramFolder& folder);
+[[nodiscard]] bool finishInterruptedCommit(const ProgramFolder& folder);
 
 // Stores a client behind the last one and returns its number; 0, and the database is as it was, if it holds
 // maxClientNumber clients already or can't be written.

@@ -81,7 +81,7 @@ void killAtManyPoints(const QString& operation) {
     for (int kill = 0; kill < killsEach; ++kill) {
         store(folder, before);
         const bool done = runProbe(operation, folder, csvPath, whole.microseconds * kill / killsEach).done;
-        finishInterruptedCommit(folder);
+        EXPECT_TRUE(finishInterruptedCommit(folder));
         const ClientPair found = pairIn(folder);
         EXPECT_TRUE(same(found, after) || (!done && same(found, before))) << operation.toStdString() << ' ' << kill;
         EXPECT_EQ(QDir(folder.folder().path()).entryList(QDir::Files).size(), 2) << "something was left behind";

@@ -35,6 +35,7 @@ TEST_F(ClientList, ShowsNameAddressAndNumber) {
 }
 
 TEST_F(ClientList, OddFilesStandInTheListAsTheyAre) {
+    constexpr qsizetype recordLength = 271;
     const auto rows = [&](const QByteArray& bytes) {
         folder.setBytes(QStringLiteral("nevek1.dat"), bytes);
         for (const int column : {0, 1, 2}) {
@@ -49,11 +50,11 @@ TEST_F(ClientList, OddFilesStandInTheListAsTheyAre) {
     model.Beolvas(folder); // no file yet
     EXPECT_EQ(model.rowCount(), 0);
     EXPECT_TRUE(folder.has(QStringLiteral("nevek1.dat")));
-    EXPECT_EQ(rows(QByteArray(270, 'a')), 0);
-    EXPECT_EQ(rows(QByteArray(271 + 100, 'a')), 1);
-    EXPECT_EQ(rows(QByteArray(271 * 3, '\0')), 0);
-    EXPECT_EQ(rows(QByteArray(271 * 3, '\xFF')), 0);
-    QByteArray afterNul(271, ' ');
+    EXPECT_EQ(rows(QByteArray(recordLength - 1, 'a')), 0);
+    EXPECT_EQ(rows(QByteArray(recordLength + 100, 'a')), 1);
+    EXPECT_EQ(rows(QByteArray(3 * recordLength, '\0')), 0);
+    EXPECT_EQ(rows(QByteArray(3 * recordLength, '\xFF')), 0);
+    QByteArray afterNul(recordLength, ' ');
     afterNul.replace(0, 4, QByteArray("b\0a ", 4));
     EXPECT_EQ(rows(afterNul), 0); // a NUL ends the name
     EXPECT_EQ(model.data(QModelIndex(), Qt::DisplayRole), QVariant());

@@ -169,7 +169,23 @@ TEST(ClientDatabase, MissingProgramFolderIsNoDatabase) {
     EXPECT_EQ(addClient(nowhere, numbered(1)), 0);
     EXPECT_FALSE(deleteClient(nowhere, 1));
     EXPECT_FALSE(wipeClients(nowhere));
-    finishInterruptedCommit(nowhere);
+    EXPECT_TRUE(finishInterruptedCommit(nowhere)) << "nothing was begun there";
+}
+
+TEST(ClientDatabase, PendingSwapIsFinishedBeforeAnythingIsReadOrReplaced) {
+    // The system refused both renames of the session before: the only copy of the old clients has the third name.
+    const TestFolder folder;
+    const ClientPair old = pairOf({1, 2, 3});
+    const ClientPair next = pairOf({7, 8});
+    folder.setBytes(QStringLiteral("nevek1.regi"), old.clients);
+    folder.setBytes(clientFile, {});
+    folder.setBytes(twinFile, old.twins);
+    folder.setBytes(nextClients, next.clients);
+    folder.setBytes(nextTwins, next.twins);
+    folder.setBytes(marker, QByteArray::number(next.clients.size()) + ' ' + QByteArray::number(next.twins.size()));
+    EXPECT_TRUE(deleteClient(folder, 1));
+    EXPECT_EQ(folder.bytes(clientFile), pairOf({8}).clients);
+    EXPECT_EQ(folder.bytes(twinFile), pairOf({8}).twins);
 }
 
 TEST(ClientDatabase, ReplacementThatIsNotCommittedLeavesNoTrace) {

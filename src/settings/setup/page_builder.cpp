@@ -135,8 +135,8 @@ QWidget* PageBuilder::swapped(const SwapRow& row, QWidget* shown, QWidget* hidde
     return place;
 }
 
-void PageBuilder::addButton(Side side, const ButtonRow& row) {
-    (side == Side::left ? leftButtons_ : rightButtons_)->addWidget(makeButton(row));
+void PageBuilder::addButton(ButtonSide side, const ButtonRow& row) {
+    (side == ButtonSide::left ? leftButtons_ : rightButtons_)->addWidget(makeButton(row));
 }
 
 void PageBuilder::addButton(QGroupBox* frame, const ButtonRow& row) {

@@ -46,7 +46,7 @@ struct ButtonRow {
     std::function<bool()> effect;
 };
 
-enum class Side { left, right };
+enum class ButtonSide { left, right };
 
 // A button that swaps two frames lying in one place; its caption tells what the next click does.
 struct SwapRow {
@@ -79,7 +79,7 @@ public:
     QWidget* swapped(const SwapRow& row, QWidget* shown, QWidget* hidden);
 
     // Below the page, in order: what leads elsewhere at the left, what changes the record at the right.
-    void addButton(Side side, const ButtonRow& row);
+    void addButton(ButtonSide side, const ButtonRow& row);
     // At the foot of a frame, for boxes that the buttons of the page leave alone.
     void addButton(QGroupBox* frame, const ButtonRow& row);
 

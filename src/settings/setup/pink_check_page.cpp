@@ -61,12 +61,12 @@ QWidget* pinkCheckPage(const SetupContext& context) {
                                     [addressee] { return addressee.store(); }});
     page.place(addresseeFrame, {0, 1});
 
-    page.addButton(Side::right,
+    page.addButton(ButtonSide::right,
                    {"cmdRCsekkAlapertelm",
                     u"&Alapértelmezettre visszaállítás",
                     {u" Módosítás ", u"Biztos visszaállítod a beállításokat\naz alapértelmezett értékekre?"},
                     [layout] { return layout.restoreFactory(); }});
-    page.addButton(Side::right,
+    page.addButton(ButtonSide::right,
                    {"cmdRCsekkMentes", u"&Beállítások mentése", changeQuestion, [layout] { return layout.store(); }});
     layout.fill();
     addressee.fill();

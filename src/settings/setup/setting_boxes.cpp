@@ -66,6 +66,6 @@ QString boxText(const QWidget& box) {
 
 void setBoxText(QWidget& box, const QString& text) {
     if (auto* tickBox = qobject_cast<QCheckBox*>(&box)) return tickBox->setChecked(field_text::isTicked(text));
-    if (auto* fontBox = qobject_cast<QComboBox*>(&box)) return fontBox->setEditText(text);
+    if (auto* fontBox = qobject_cast<EntryCombo*>(&box)) return fontBox->showText(text);
     qobject_cast<QLineEdit*>(&box)->setText(text);
 }

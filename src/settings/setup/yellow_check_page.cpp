@@ -94,13 +94,14 @@ QWidget* yellowCheckPage(const SetupContext& context) {
     page.place(page.frame<Set>({"frmNyomtatando", u"Nyomtatandó adatok a csekkre"}, printedItems, boxes), {0, 1});
     page.place(page.frame<Set>({"Frame8", u"Kijelölés a listamezőben"}, deadline, boxes), {1, 1});
 
-    page.addButton(Side::left, {"cmdJogcim", u"&Jogcím szövegek felvétele", {}, {}});
-    page.addButton(Side::left, {"cmdKozlemeny", u"&Közlemény szövegek felvétele", {}, {}});
-    page.addButton(Side::right, {"Command2",
-                                 u"&Alapértelmezettre visszaállítás",
-                                 {u" Módosítás ", u"Biztos módosítod a beállításokat\naz alapértelmezett értékekre?"},
-                                 [boxes] { return boxes.restoreFactory(); }});
-    page.addButton(Side::right,
+    page.addButton(ButtonSide::left, {"cmdJogcim", u"&Jogcím szövegek felvétele", {}, {}});
+    page.addButton(ButtonSide::left, {"cmdKozlemeny", u"&Közlemény szövegek felvétele", {}, {}});
+    page.addButton(ButtonSide::right,
+                   {"Command2",
+                    u"&Alapértelmezettre visszaállítás",
+                    {u" Módosítás ", u"Biztos módosítod a beállításokat\naz alapértelmezett értékekre?"},
+                    [boxes] { return boxes.restoreFactory(); }});
+    page.addButton(ButtonSide::right,
                    {"Command1", u"&Beállítások mentése", changeQuestion, [boxes] { return boxes.store(); }});
     boxes.fill();
     return page.finish();

@@ -1,0 +1,133 @@
+#include "window_fixture.h"
+
+namespace {
+
+class DatabaseActions : public WindowTest {
+protected:
+    // Three clients, the middle one clicked.
+    void SetUp() override {
+        openWith({clientNamed(QStringLiteral("Kiss Anna")), clientNamed(QStringLiteral("Szűcs Ernő")),
+                  clientNamed(QStringLiteral("Nagy Béla"))});
+        clickRow(1);
+    }
+    QString csv(const QByteArray& lines) const {
+        files.setBytes(QStringLiteral("be.csv"), lines);
+        return files.folder().file(QStringLiteral("be.csv"));
+    }
+    void importFile(const QString& path) {
+        prompts.files = {path};
+        choose("mnuAdatCsvbol");
+        EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+    }
+    // What was told since the last call, as "title|text#title|text".
+    std::string told() {
+        QStringList texts;
+        for (const Message& message : prompts.told)
+            texts << message.title + u'|' + message.text;
+        prompts.told.clear();
+        return texts.join(u'#').toStdString();
+    }
+    // No held number names a client that may be another one now.
+    void expectNobodyHeld() const {
+        EXPECT_EQ(window->rekordszam(), 0);
+        EXPECT_FALSE(enabled("cmdDel"));
+    }
+};
+
+const std::string finished = "Adatbázis importálása|Az adatbázis importálása befejeződött.\n\n"
+                             "Ha a listamezőben az adatbázis nem megfelelő,\n"
+                             "törölje az adatbázist és ellenőrízze a ''csv'' fájlt,\n"
+                             "majd indítsa el újra az importálást.";
+
+TEST_F(DatabaseActions, DeleteNamesThePersonWhoGoes) {
+    for (const char* shownName : {"Szűcs Ernő", "Kiss Anna", ""}) { // typed over on the form
+        type("txNev", QString::fromUtf8(shownName));
+        prompts.answers = {Answer::no};
+        press("cmdDel");
+        EXPECT_EQ(prompts.asked.back().title, QStringLiteral("Feladó törlése"));
+        EXPECT_EQ(prompts.asked.back().text, QStringLiteral("Biztos mehet \nSZŰCS ERNŐ\n\ntörlése?"));
+    }
+    EXPECT_EQ(rows(), "Kiss Anna|[Szűcs Ernő]|Nagy Béla");
+    EXPECT_EQ(window->rekordszam(), 2);
+    prompts.answers = {Answer::yes};
+    press("cmdDel");
+    EXPECT_EQ(rows(), "Kiss Anna|Nagy Béla");
+    EXPECT_EQ(rows(2), "     1|     2");
+    expectNobodyHeld();
+    for (const int stale : {0, 3, -1, 32767}) {
+        EXPECT_FALSE(cmdDel_Click(files, prompts, stale, QStringLiteral("Nagy Béla")));
+        EXPECT_EQ(told(), "Figyelem!| Nincs kijelölve ügyfél a listáról...");
+    }
+    EXPECT_EQ(clientCount(files), 2);
+    clickRow(1);
+    EXPECT_EQ(text("txNev"), "Nagy Béla");
+    EXPECT_TRUE(enabled("cmdDel"));
+}
+
+TEST_F(DatabaseActions, WipeEmptiesFilesAndList) {
+    prompts.answers = {Answer::no, Answer::yes};
+    choose("mnuAdatbazisTorles");
+    EXPECT_EQ(clientCount(files), 3);
+    EXPECT_EQ(window->rekordszam(), 2);
+    choose("mnuAdatbazisTorles");
+    EXPECT_EQ(prompts.asked[1].title, QStringLiteral("Adatbázis törlése"));
+    EXPECT_EQ(prompts.asked[1].text,
+              QStringLiteral("Biztos benne hogy TÖRLI \na teljes adatbázist?\n\nMehet a TÖRLÉS?"));
+    EXPECT_TRUE(files.bytes(QStringLiteral("nevek1.dat")).isEmpty());
+    EXPECT_TRUE(files.bytes(QStringLiteral("kozl3sor.dat")).isEmpty());
+    EXPECT_EQ(rows(), "");
+    expectNobodyHeld();
+}
+
+TEST_F(DatabaseActions, ImportAppendsOrOverwritesAsTheTitleSays) {
+    importFile(csv("Tóth Éva;;;;;;900"));
+    EXPECT_EQ(rows(), "Kiss Anna|Szűcs Ernő|Nagy Béla|Tóth Éva");
+    EXPECT_EQ(prompts.fileTitles.back(), QStringLiteral("Importálás - hozzáfűzés"));
+    EXPECT_EQ(window->rekordszam(), 2); // those who were there keep their numbers
+    EXPECT_TRUE(enabled("cmdDel"));
+    EXPECT_EQ(told(), finished);
+
+    updateRecord<Set>(files, [](Set& set) { set.opHozzafuzes_1 = true; });
+    importFile(csv("Ács Dóra;;;;;;900\r\nBodó Pál;;;;;;12 500 Ft\r\nCsík Rita;;;;;;sok\r\n"));
+    EXPECT_EQ(rows(), "Ács Dóra|Bodó Pál|Csík Rita");
+    EXPECT_EQ(prompts.fileTitles.back(), QStringLiteral("Importálás - a meglévő adatbázis FELÜLÍRÁSÁVAL"));
+    expectNobodyHeld();
+    EXPECT_EQ(told(), "Adatbázis importálása|A beolvasott adatokból 1 rekord összege nem értelmezhető, ezek összege 0 "
+                      "lett.\nEllenőrízd a ''csv'' fájl helyességét.#" +
+                          finished);
+    clickRow(1);
+    EXPECT_EQ(text("txOsszeg"), "12500");
+}
+
+TEST_F(DatabaseActions, ImportThatFailsLeavesTheDatabase) {
+    updateRecord<Set>(files, [](Set& set) { set.opHozzafuzes_1 = true; });
+    const QByteArray before = files.bytes(QStringLiteral("nevek1.dat"));
+    const struct {
+        QString path;
+        const char* told;
+    } attempts[] = {
+        {{}, ""}, // cancelled, as the next one
+        {QStringLiteral("*.csv"), ""},
+        {files.folder().file(QStringLiteral("nincs.csv")), "Hiba|A fájl nem olvasható, az adatbázis nem változott."},
+        {csv({}), "Hiba|A fájl üres, az adatbázis nem változott."}};
+    for (const auto& attempt : attempts) {
+        importFile(attempt.path);
+        EXPECT_EQ(told(), attempt.told) << attempt.path.toStdString();
+        EXPECT_EQ(rows(), "Kiss Anna|[Szűcs Ernő]|Nagy Béla");
+        EXPECT_EQ(window->rekordszam(), 2);
+        EXPECT_EQ(files.bytes(QStringLiteral("nevek1.dat")), before);
+    }
+}
+
+TEST_F(DatabaseActions, TooLargeADatabaseIsToldLast) {
+    const ImportResult imported{ImportMode::append, 1, 0};
+    for (const int count : {32767, 32768}) {
+        files.store(clientNamed(QStringLiteral("Kiss Anna")), count);
+        tellImported(files, prompts, imported);
+        EXPECT_EQ(told(), finished + (count == 32767 ? ""
+                                                     : "#Figyelem!|Az adatbázis 32767-nél több ügyfelet tartalmaz,\n"
+                                                       "a többi a listából nem választható ki!"));
+    }
+}
+
+} // namespace

@@ -1,0 +1,128 @@
+#pragma once
+
+#include "mainwindow/frmTarlimo.h"
+#include "support/recording_service.h"
+#include "support/scripted_prompts.h"
+#include "support/test_folder.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QTest>
+#include <QTimer>
+#include <QTreeView>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+// A real main window on a folder of its own, worked with mouse and keys. Controls are found by their names, members of
+// arrays as "Text1_1". The folder has factory layouts, so that checks print; text of 10 points is 1 mm a character.
+class WindowTest : public testing::Test {
+protected:
+    // Lets a test look at the window while the print dialog is open.
+    struct WindowPrompts : ScriptedPrompts {
+        std::function<void()> whileChoosing = [] {};
+        std::optional<PrinterChoice> choosePrinter(const QStringList& printers, int current) override {
+            whileChoosing();
+            return ScriptedPrompts::choosePrinter(printers, current);
+        }
+    };
+
+    TestFolder files;
+    RecordingService service;
+    WindowPrompts prompts;
+    std::unique_ptr<frmTarlimo> window;
+
+    WindowTest() {
+        files.store(Set::factory());
+        files.store(SetRcsekk::factory());
+    }
+
+    // Starts the program on what lies in the folder; a second call is the next start.
+    void open() {
+        const WindowServices services{service, prompts, [](const QString&) {}, [] { return QString(); }, {}};
+        window = std::make_unique<frmTarlimo>(files.folder(), services);
+        window->show();
+    }
+    void openWith(std::initializer_list<ClientRec> clients) {
+        for (const ClientRec& client : clients)
+            files.store(client, clientCount(files) + 1);
+        open();
+    }
+    Set set() const { return readRecord<Set>(files); }
+
+    template<class Widget = QWidget>
+    Widget& find(const char* name) const {
+        auto* found = window->findChild<Widget*>(QLatin1String(name));
+        if (found == nullptr) throw std::runtime_error(std::string("no control ") + name);
+        return *found;
+    }
+    // Reads a text box, combo, label or caption.
+    std::string text(const char* name) const {
+        const bool combo = window->findChild<QComboBox*>(QLatin1String(name)) != nullptr;
+        return find(name).property(combo ? "currentText" : "text").toString().toStdString();
+    }
+    bool shown(const char* name) const { return find(name).isVisible(); }
+    bool enabled(const char* name) const { return find(name).isEnabled(); }
+    bool ticked(const char* name) const { return find<QAbstractButton>(name).isChecked(); }
+    void expectShown(const std::vector<const char*>& names, bool expected) const {
+        for (const char* name : names)
+            EXPECT_EQ(shown(name), expected) << name;
+    }
+
+    // Types over what stands in a text box or combo. Not by keyClicks, which knows ASCII alone.
+    void type(const char* name, const QString& letters) const {
+        auto* combo = window->findChild<QComboBox*>(QLatin1String(name));
+        QLineEdit& box = combo != nullptr ? *combo->lineEdit() : find<QLineEdit>(name);
+        box.selectAll();
+        if (letters.isEmpty()) QTest::keyClick(&box, Qt::Key_Delete);
+        for (const QChar letter : letters)
+            QTest::sendKeyEvent(QTest::Click, &box, Qt::Key_unknown, QString(letter), Qt::NoModifier);
+    }
+    void press(const char* name) const {
+        auto& button = find<QAbstractButton>(name);
+        EXPECT_TRUE(button.isVisible()) << name;
+        // Check boxes and options react on their indicator, at the left.
+        QTest::mouseClick(&button, Qt::LeftButton, {}, {std::min(6, button.width() / 2), button.height() / 2});
+    }
+    void goTo(int tab) const {
+        QTabBar& bar = *find<QTabWidget>("SSTab1").tabBar();
+        QTest::mouseClick(&bar, Qt::LeftButton, {}, bar.tabRect(tab).center());
+        QCoreApplication::processEvents(); // lays out what came into view
+    }
+    // Chooses from the menu; a modal dialog that opens is shown to `inDialog` and closed.
+    template<class InDialog>
+    void choose(const char* menuEntry, InDialog inDialog) const {
+        QTimer::singleShot(0, [inDialog] {
+            QWidget* dialog = QApplication::activeModalWidget();
+            ASSERT_NE(dialog, nullptr);
+            inDialog(*dialog);
+            dialog->close();
+        });
+        choose(menuEntry);
+    }
+    void choose(const char* menuEntry) const { find<QAction>(menuEntry).trigger(); }
+
+    QTreeView& list() const { return find<QTreeView>("ListView1"); }
+    void clickRow(int row, Qt::KeyboardModifiers modifiers = {}) const {
+        const QModelIndex index = list().model()->index(row, 0);
+        ASSERT_TRUE(index.isValid()) << row;
+        list().scrollTo(index);
+        QTest::mouseClick(list().viewport(), Qt::LeftButton, modifiers, list().visualRect(index).center());
+    }
+    // One column of the list, rows parted by '|', the selected ones in brackets.
+    std::string rows(int column = 0) const {
+        QStringList texts;
+        for (int row = 0; row < list().model()->rowCount(); ++row) {
+            const QString cell = list().model()->index(row, column).data().toString();
+            texts << (list().selectionModel()->isRowSelected(row) ? u'[' + cell + u']' : cell);
+        }
+        return texts.join(u'|').toStdString();
+    }
+};

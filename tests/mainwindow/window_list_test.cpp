@@ -1,0 +1,130 @@
+#include "window_fixture.h"
+
+#include <QHeaderView>
+
+namespace {
+
+class WindowList : public WindowTest {
+protected:
+    void openWithFour() {
+        openWith({clientNamed(QStringLiteral("Kiss Anna"), 100), clientNamed(QStringLiteral("Nagy Béla")),
+                  clientNamed(QStringLiteral("Kiss Éva"), 300), clientNamed(QStringLiteral("Ács Dóra"))});
+    }
+    void clickHeader(int column) const {
+        QHeaderView& header = *list().header();
+        QTest::mouseClick(header.viewport(), Qt::LeftButton, {},
+                          {header.sectionViewportPosition(column) + 20, header.height() / 2});
+    }
+    // The print button on view and the count beside the list.
+    std::string buttons() const {
+        return (shown("cmdPrint") ? "single " : "") + std::string(shown("cmdCsPrint") ? "batch " : "") +
+               text("lbKijelolve");
+    }
+};
+
+TEST_F(WindowList, AClickPoursTheClientWhateverElseIsSelected) {
+    openWith({clientNamed(QStringLiteral("Anna")), clientNamed(QStringLiteral("Béla")),
+              clientNamed(QStringLiteral("Dóra"))});
+    const auto key = [&](Qt::Key code, Qt::KeyboardModifiers modifiers) { QTest::keyClick(&list(), code, modifiers); };
+    const struct {
+        std::function<void()> act;
+        int client;
+        const char *payer, *rows, *buttons;
+    } steps[] = {{[&] { clickRow(0); }, 1, "Anna", "[Anna]|Béla|Dóra", "single "},
+                 {[&] { clickRow(1, Qt::ControlModifier); }, 2, "Béla", "[Anna]|[Béla]|Dóra", "batch 2"},
+                 {[&] { clickRow(0, Qt::ControlModifier); }, 1, "Anna", "Anna|[Béla]|Dóra", "single "},
+                 {[&] { clickRow(2, Qt::ShiftModifier); }, 3, "Dóra", "[Anna]|[Béla]|[Dóra]", "batch 3"},
+                 {[&] { key(Qt::Key_Up, {}); }, 2, "Béla", "Anna|[Béla]|Dóra", "single "},
+                 {[&] { key(Qt::Key_A, Qt::ControlModifier); }, 2, "Béla", "[Anna]|[Béla]|[Dóra]", "batch 3"},
+                 {[&] { key(Qt::Key_Home, {}); }, 1, "Anna", "[Anna]|Béla|Dóra", "single "}};
+    for (const auto& step : steps) {
+        step.act();
+        for (const char* box : {"txNev", "Text1_1", "txNev2", "txNev3", "txtBoritekCimzettNev"})
+            EXPECT_EQ(text(box), step.payer) << box;
+        EXPECT_EQ(rows(), step.rows);
+        EXPECT_EQ(buttons(), step.buttons);
+        EXPECT_EQ(window->rekordszam(), step.client);
+    }
+    EXPECT_TRUE(enabled("cmdDel"));
+    goTo(4); // labels have no batch
+    clickRow(1, Qt::ControlModifier);
+    EXPECT_EQ(buttons(), "single ");
+}
+
+TEST_F(WindowList, HeaderSortsAndTheBoxAloneDecidesTheOrder) {
+    openWithFour();
+    clickRow(1);
+    for (int click = 0; click < 3; ++click) {
+        clickHeader(0);
+        EXPECT_EQ(rows(), "[Nagy Béla]|Kiss Éva|Kiss Anna|Ács Dóra") << click;
+    }
+    press("chkListaSorren");
+    EXPECT_EQ(rows(), "Ács Dóra|Kiss Anna|Kiss Éva|[Nagy Béla]");
+    clickRow(0);
+    EXPECT_EQ(text("txNev"), "Ács Dóra"); // by the row's number, not its place
+    clickHeader(2);
+    EXPECT_EQ(rows(2), "     1|     2|     3|[     4]");
+    press("cmdBeolvas"); // takes the selection, and nothing else
+    EXPECT_EQ(rows(2), "1|2|3|4");
+    EXPECT_EQ(text("txNev"), "Ács Dóra");
+    EXPECT_EQ(window->rekordszam(), 4);
+}
+
+TEST_F(WindowList, DeleteTakesRowsOutOfTheListAlone) {
+    openWithFour();
+    const QByteArray before = files.bytes(QStringLiteral("nevek1.dat"));
+    for (const int row : {0, 2, 3})
+        clickRow(row, Qt::ControlModifier);
+    QTest::keyClick(&find("txNev_2"), Qt::Key_Delete); // not the list's key
+    EXPECT_EQ(buttons(), "batch 3");
+    QTest::keyClick(&list(), Qt::Key_Delete);
+    EXPECT_EQ(rows(), "Nagy Béla");
+    EXPECT_EQ(text("lbKijelolve"), "");
+    EXPECT_EQ(window->rekordszam(), 4);
+    EXPECT_EQ(files.bytes(QStringLiteral("nevek1.dat")), before);
+    press("cmdBeolvas");
+    EXPECT_EQ(rows(), "Kiss Anna|Nagy Béla|Kiss Éva|Ács Dóra");
+}
+
+TEST_F(WindowList, RecordsBeyondTheHeldNumberCannotBePicked) {
+    const ClientRec last = clientNamed(QStringLiteral("Kiss Anna"));
+    files.store(last, 32767); // nameless clients come before
+    files.store(last, 32768);
+    open();
+    clickRow(32766);
+    clickRow(32767);
+    EXPECT_EQ(window->rekordszam(), 32767);
+    ASSERT_EQ(prompts.told.size(), 1U);
+    EXPECT_EQ(prompts.told[0].title, QStringLiteral("Figyelem!"));
+    EXPECT_EQ(prompts.told[0].text, QStringLiteral("A 32767. rekord utáni ügyfelek innen nem választhatók ki!"));
+}
+
+TEST_F(WindowList, LiveSearchNarrowsTheListWhileTyping) {
+    openWithFour();
+    type("txNev", QStringLiteral("xyz"));
+    EXPECT_EQ(rows(), "Kiss Anna|Nagy Béla|Kiss Éva|Ács Dóra"); // its box isn't ticked
+    press("Check1");
+    type("txNev", QStringLiteral("KISS é"));
+    EXPECT_EQ(rows() + rows(2), "Kiss Éva3");
+    for (int letters = 6; letters > 0; --letters)
+        QTest::keyClick(&find("txNev"), Qt::Key_Backspace);
+    EXPECT_EQ(rows(2), "1|2|3|4");
+}
+
+TEST_F(WindowList, SearchingByAClickKeepsTheClickedClient) {
+    openWith({clientNamed(QStringLiteral("Kiss Anna"), 100), clientNamed(QStringLiteral("Nagy Béla"), 200),
+              clientNamed(QStringLiteral("Kiss Anna"), 300), clientNamed(QStringLiteral("Nagy Béla"), 400)});
+    clickRow(1);
+    press("Check1");
+    clickRow(2, Qt::ControlModifier); // its own click rebuilds the list and drops the other client
+    EXPECT_EQ(rows(), "Kiss Anna|[Kiss Anna]");
+    EXPECT_EQ(buttons(), "single ");
+    EXPECT_EQ(window->rekordszam(), 3);
+    EXPECT_EQ(text("txOsszeg"), "300"); // and not the last client that the search read
+    EXPECT_EQ(text("txUosszeg"), "300");
+    QTest::keyClick(&list(), Qt::Key_Up);
+    EXPECT_EQ(rows(), "[Kiss Anna]|Kiss Anna");
+    EXPECT_EQ(text("txOsszeg"), "100");
+}
+
+} // namespace
