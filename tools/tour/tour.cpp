@@ -197,7 +197,7 @@ void Tour::openSetup(int tab) {
         auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
         check(dialog != nullptr, QStringLiteral("the setup dialog opens"));
         if (dialog == nullptr) return;
-        dialog->resize(dialog->sizeHint()); // the offscreen platform's screen is smaller than a real one
+        dialog->resize(dialog->sizeHint() + QSize(24, 24)); // the offscreen platform's screen is smaller than a real one
         const QString path = results_ + QStringLiteral("/06-beallitasok-%1.png").arg(tab);
         check(dialog->grab().save(path), QStringLiteral("screenshot of the setup dialog"));
         dialog->reject();

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QString>
+
+#include <memory>
+
+// The limits of what a machine does with files: system calls and one buffer, nothing else.
+
+struct BareBytes {
+    std::unique_ptr<char[]> bytes;
+    std::size_t size = 0;
+};
+
+// Opens a file and reads the whole of it into memory that nobody has used yet.
+BareBytes bareRead(const QString& path);
+
+// Reads a CSV file in pieces, splits it at line ends and ';', and writes both files of the client database into
+// `folder`: one buffer each, flushed to the disk and put in the place of the old files. Knows the columns and their
+// widths and nothing of quotes, encodings, blanks or errors.
+void bareImport(const QString& csv, const QString& folder);
