@@ -3,6 +3,7 @@
 #include "controls/entry_combo.h"
 
 #include <QCheckBox>
+#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
@@ -12,6 +13,12 @@ void BoundView::setName(QWidget* widget, const char* name, const char* tooltip) 
     widget->setObjectName(QLatin1String(name));
     // Tooltips are plain text: a name like "A<B" must not turn one into markup.
     if (*tooltip != '\0') widget->setToolTip(QString::fromUtf8(tooltip).toHtmlEscaped());
+}
+
+QGroupBox* BoundView::frame(const char* name, const char* caption) {
+    auto* box = new QGroupBox(QString::fromUtf8(caption));
+    setName(box, name);
+    return box;
 }
 
 void BoundView::showValues() {

@@ -10,6 +10,7 @@
 
 class EntryCombo;
 class QAbstractButton;
+class QGroupBox;
 class QLabel;
 class QLineEdit;
 
@@ -48,6 +49,8 @@ protected:
 
     const FormContext& context() const { return context_; }
 
+    // A named box with a caption around controls.
+    static QGroupBox* frame(const char* name, const char* caption);
     static void setName(QWidget* widget, const char* name, const char* tooltip = "");
 
 private:

@@ -2,12 +2,12 @@
 #include "mainwindow/form_views.h"
 
 #include <QCheckBox>
-#include <QFormLayout>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollBar>
 
 namespace {
 
@@ -47,6 +47,12 @@ const TypeRow types[] = {
      {10, 8},
      {125, 56}},
 };
+
+QLabel* label(const char* name) {
+    auto* shown = new QLabel;
+    shown->setObjectName(QLatin1String(name));
+    return shown;
+}
 
 const TypeRow& rowOf(EnvelopeType type) { return types[static_cast<int>(type) - 1]; }
 
@@ -104,77 +110,85 @@ void EnvelopeView::addLines(const char* name, std::initializer_list<Line> lines)
 // Options, sample and picture controls beside the envelope.
 void EnvelopeView::buildSide() {
     auto* side = new QVBoxLayout;
-    auto* typeFrame = new QGroupBox(QStringLiteral("Boríték típusa"));
-    typeFrame->setObjectName(QStringLiteral("Frame2"));
-    auto* typeLayout = new QVBoxLayout(typeFrame);
+    side->addWidget(buildTypes());
+    side->addWidget(buildSample());
+    side->addWidget(bindCheck(tab_.chkFelado, "chkFelado", QStringLiteral("Feladó nyomtatása")));
+    side->addWidget(bindCheck(tab_.chkCimzett, "chkCimzett", QStringLiteral("Címzett nyomtatása")));
+    side->addWidget(bindCheck(tab_.chkKepPrint, "chkKepPrint", QStringLiteral("Kép nyomtatása")));
+    side->addWidget(buildPicture());
+    side->addStretch();
+    static_cast<QHBoxLayout*>(layout())->addLayout(side);
+}
+
+QWidget* EnvelopeView::buildTypes() {
+    QGroupBox* box = frame("Frame2", "Boríték típusa");
+    auto* column = new QVBoxLayout(box);
     for (const TypeRow& row : types)
-        typeLayout->addWidget(bindOption(
+        column->addWidget(bindOption(
             row.option, QString::fromUtf8(row.caption), [this, &row] { return tab_.type == row.type; },
             [this, &row] { tab_.type = row.type; }));
-    side->addWidget(typeFrame);
+    return box;
+}
 
-    auto* sampleFrame = new QGroupBox(QStringLiteral("Boríték minta"));
-    sampleFrame->setObjectName(QStringLiteral("Frame4"));
-    auto* sampleLayout = new QHBoxLayout(sampleFrame);
+QWidget* EnvelopeView::buildSample() {
+    QGroupBox* box = frame("Frame4", "Boríték minta");
     auto* sample = new QFrame;
     sample->setObjectName(QStringLiteral("BoritekMinta"));
     sample->setFrameStyle(QFrame::Box | QFrame::Plain);
     sample->setStyleSheet(QStringLiteral("QFrame#BoritekMinta { background: white; }"));
-    auto* sizes = new QVBoxLayout;
-    auto* typeName = new QLabel;
-    typeName->setObjectName(QStringLiteral("Label3"));
-    auto* width = new QLabel;
-    width->setObjectName(QStringLiteral("lbBoritekSzeles"));
-    auto* height = new QLabel;
-    height->setObjectName(QStringLiteral("lbBoritekMagas"));
-    auto* sizeLine = new QHBoxLayout;
-    for (QWidget* widget : std::initializer_list<QWidget*>{width, new QLabel(QStringLiteral("x")), height})
-        sizeLine->addWidget(widget);
-    sizeLine->addStretch();
-    sizes->addWidget(typeName);
-    sizes->addLayout(sizeLine);
-    sampleLayout->addWidget(sample);
-    sampleLayout->addLayout(sizes, 1);
-    side->addWidget(sampleFrame);
-    onShow([this, sample, typeName, width, height] {
+    QLabel* name = label("Label3");
+    QLabel* width = label("lbBoritekSzeles");
+    QLabel* height = label("lbBoritekMagas");
+    auto* grid = new QGridLayout(box);
+    grid->addWidget(sample, 0, 0, 2, 1);
+    grid->addWidget(name, 0, 1, 1, 3);
+    grid->addWidget(width, 1, 1);
+    grid->addWidget(new QLabel(QStringLiteral("x")), 1, 2);
+    grid->addWidget(height, 1, 3);
+    grid->setColumnStretch(3, 1);
+    onShow([this, sample, name, width, height] {
         const TypeRow& row = rowOf(tab_.type);
         sample->setFixedSize((row.mm * 10.0 / 15.0).toSize()); // 10 twips a millimetre, 15 twips a pixel
-        typeName->setText(QString::fromUtf8(row.sampleName));
+        name->setText(QString::fromUtf8(row.sampleName));
         width->setText(QStringLiteral("%1 mm").arg(row.mm.width()));
         height->setText(QStringLiteral("%1 mm").arg(row.mm.height()));
     });
+    return box;
+}
 
-    side->addWidget(bindCheck(tab_.chkFelado, "chkFelado", QStringLiteral("Feladó nyomtatása")));
-    side->addWidget(bindCheck(tab_.chkCimzett, "chkCimzett", QStringLiteral("Címzett nyomtatása")));
-    side->addWidget(bindCheck(tab_.chkKepPrint, "chkKepPrint", QStringLiteral("Kép nyomtatása")));
-
-    auto* pictureFrame = new QGroupBox(QStringLiteral("Kép helyzete és mérete (mm)"));
-    pictureFrame->setObjectName(QStringLiteral("Frame5"));
-    auto* pictureLayout = new QFormLayout(pictureFrame);
-    auto* left = new QLabel;
-    left->setObjectName(QStringLiteral("lbXpoz"));
-    left->setToolTip(QStringLiteral("A kép helyzete a bal margótól"));
-    auto* top = new QLabel;
-    top->setObjectName(QStringLiteral("lbYpoz"));
-    top->setToolTip(QStringLiteral("A kép helyzete a felső margótól."));
-    pictureLayout->addRow(QStringLiteral("Bal margó"), left);
-    pictureLayout->addRow(QStringLiteral("Felső margó"), top);
+// The picture is on view where it was saved; choosing, moving and sizing it isn't built yet.
+QWidget* EnvelopeView::buildPicture() {
+    QGroupBox* box = frame("Frame5", "Kép helyzete és mérete (mm)");
     auto* find = new QPushButton(QStringLiteral("Kép keresés"));
     find->setObjectName(QStringLiteral("cmdKepek"));
     find->setToolTip(QStringLiteral("Kép keresése saját gépen..."));
-    find->setEnabled(false);
     auto* save = new QPushButton(QStringLiteral("Kép mentése"));
     save->setObjectName(QStringLiteral("cmdKepMentese"));
-    save->setEnabled(false);
-    pictureLayout->addRow(find, save);
-    side->addWidget(pictureFrame);
-    side->addStretch();
-    onShow([this, left, top, pictureFrame] {
-        left->setText(tab_.lbXpoz);
-        top->setText(tab_.lbYpoz);
-        pictureFrame->setVisible(tab_.chkKepPrint);
+    auto* scale = new QScrollBar(Qt::Horizontal);
+    scale->setObjectName(QStringLiteral("HScroll1"));
+    scale->setRange(1900, 8000);
+    for (QWidget* later : std::initializer_list<QWidget*>{find, save, scale})
+        later->setEnabled(false);
+    auto* grid = new QGridLayout(box);
+    grid->addWidget(new QLabel(QStringLiteral("Bal margó")), 0, 0);
+    grid->addWidget(bindLabel(tab_.lbXpoz, "lbXpoz", "A kép helyzete a bal margótól"), 0, 1);
+    grid->addWidget(new QLabel(QStringLiteral("Felső margó")), 0, 2);
+    grid->addWidget(bindLabel(tab_.lbYpoz, "lbYpoz", "A kép helyzete a felső margótól."), 0, 3);
+    grid->addWidget(scale, 1, 0, 1, 4);
+    grid->addWidget(find, 2, 0, 1, 2);
+    grid->addWidget(save, 2, 2, 1, 2);
+    QLabel* picture = label("Image3");
+    picture->setFrameStyle(QFrame::Box | QFrame::Plain);
+    picture->setText(QStringLiteral("kép"));
+    picture->setAlignment(Qt::AlignCenter);
+    picture->setAttribute(Qt::WA_TransparentForMouseEvents); // the boxes under it stay within reach
+    page()->place(picture, {});
+    onShow([this, box, picture] {
+        page()->place(picture, tab_.Image3);
+        picture->setVisible(tab_.chkKepPrint);
+        box->setVisible(tab_.chkKepPrint);
     });
-    static_cast<QHBoxLayout*>(layout())->addLayout(side);
+    return box;
 }
 
 void EnvelopeView::placeForType() {

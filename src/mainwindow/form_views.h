@@ -69,6 +69,9 @@ private:
     };
     void addLines(const char* name, std::initializer_list<Line> lines);
     void buildSide();
+    QWidget* buildTypes();
+    QWidget* buildSample();
+    QWidget* buildPicture();
     void placeForType();
     EnvelopeTab& tab_;
 };

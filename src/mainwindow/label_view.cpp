@@ -14,12 +14,6 @@
 
 namespace {
 
-QGroupBox* frame(const char* name, const char* caption) {
-    auto* box = new QGroupBox(QString::fromUtf8(caption));
-    box->setObjectName(QLatin1String(name));
-    return box;
-}
-
 QByteArray indexed(const char* name, int index) { return QByteArray(name) + '_' + QByteArray::number(index); }
 
 } // namespace

@@ -14,7 +14,7 @@ void restoreTabs(FormTabs& tabs, const Set& set);
 void restoreBold(EnvelopeTab& tab, const boritek& set);
 // Fonts and sizes of the label lines.
 void restoreLabelFonts(LabelTab& tab, const Betutip& fonts, const Betumeret& sizes);
-// Position of the envelope's picture in whole mm, from its place on the screen; nothing is shown for 0.
+// Box of the envelope's picture in mm, from its place on the screen, and its position as shown: nothing for 0.
 void showPicturePlacement(EnvelopeTab& tab, const Kepment& stored);
 
 // The other way, at exit; all other fields are left alone.

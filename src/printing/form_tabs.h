@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QRectF>
 #include <QString>
 #include <QStringList>
 
@@ -63,7 +64,8 @@ struct EnvelopeTab {
     bool chkFKCNev = false, chkFKCNev2 = false, chkFKCCim1 = false, chkFKCCim2 = false, chkFKCIrsz = false;
     QString txtFelado5mezo;
     bool chkKepPrint = false;
-    QString lbXpoz, lbYpoz;      // picture position, mm, as shown
+    QRectF Image3;               // box of the picture on the envelope, mm
+    QString lbXpoz, lbYpoz;      // its position, whole mm, as shown
     int kepBal = 0, kepFent = 0; // the same as numbers, taken at each press of a print button
 };
 

@@ -134,22 +134,23 @@ void Tour::importClients() {
 void Tour::walkTabs() {
     const char* names[] = {"sarga-csekk", "tertiveveny",   "feladoveveny",    "boritek",
                            "etikett",     "terti-irathoz", "rozsaszin-csekk", "utanveteli-lap"};
+    struct Variant { // what else a tab shows, and the controls that turn to it and back
+        int tab;
+        const char *turn, *back, *picture;
+    };
+    const Variant variants[] = {
+        {1, "opBelfold_1", "opBelfold_0", "03-tertiveveny-kulfoldi"},
+        {3, "chkKepPrint", "chkKepPrint", "03-boritek-kep"},
+        {6, "cmdOldalCsere", "cmdOldalCsere", "03-rozsaszin-hatul"},
+        {7, "cmdUtanvetOdalCsere", "cmdUtanvetOdalCsere", "03-utanvet-hatul"},
+    };
     for (int tab = 0; tab < 8; ++tab) {
         showTab(tab);
-        if (tab == 1) {
-            click("opBelfold_1");
-            shoot(QStringLiteral("03-tertiveveny-kulfoldi"));
-            click("opBelfold_0");
-        }
-        if (tab == 6) {
-            click("cmdOldalCsere");
-            shoot(QStringLiteral("03-rozsaszin-hatul"));
-            click("cmdOldalCsere");
-        }
-        if (tab == 7) {
-            click("cmdUtanvetOdalCsere");
-            shoot(QStringLiteral("03-utanvet-hatul"));
-            click("cmdUtanvetOdalCsere");
+        for (const Variant& variant : variants) {
+            if (variant.tab != tab) continue;
+            click(variant.turn);
+            shoot(QLatin1String(variant.picture));
+            click(variant.back);
         }
         shoot(QStringLiteral("02-%1-%2").arg(tab).arg(QLatin1String(names[tab])));
     }
@@ -197,7 +198,8 @@ void Tour::openSetup(int tab) {
         auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
         check(dialog != nullptr, QStringLiteral("the setup dialog opens"));
         if (dialog == nullptr) return;
-        dialog->resize(dialog->sizeHint() + QSize(24, 24)); // the offscreen platform's screen is smaller than a real one
+        dialog->resize(dialog->sizeHint() +
+                       QSize(24, 24)); // the offscreen platform's screen is smaller than a real one
         const QString path = results_ + QStringLiteral("/06-beallitasok-%1.png").arg(tab);
         check(dialog->grab().save(path), QStringLiteral("screenshot of the setup dialog"));
         dialog->reject();
