@@ -18,6 +18,7 @@ ClientZone::ClientZone(const ProgramFolder& folder, QWidget* parent)
     count_->setToolTip(QStringLiteral("Ennyi ügyfél van kijelölve"));
     count_->setAlignment(Qt::AlignCenter);
     view_->setModel(&model_);
+    setFocusProxy(view_);
     view_->setColumnWidth(0, 353); // 5292, 7056 and 2540 twips; the last column takes what is left
     view_->setColumnWidth(1, 470);
     view_->header()->setStretchLastSection(true);

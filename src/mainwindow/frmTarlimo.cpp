@@ -67,6 +67,7 @@ frmTarlimo::frmTarlimo(const ProgramFolder& folder, const WindowServices& servic
     connectMenu();
     load();
     activate();
+    clients_->setFocus(); // the day's work begins with a client
 
     connect(SSTab1_, &QTabWidget::currentChanged, this, &frmTarlimo::tabClicked);
     connect(SSTab1_->tabBar(), &QTabBar::tabBarClicked, this, [this](int tab) {
