@@ -9,6 +9,9 @@
 // hanging it. Messages need no answer.
 class ScriptedPrompts : public Prompts {
 public:
+    ScriptedPrompts() = default;
+    ScriptedPrompts(const ScriptedPrompts&) = delete;
+    ScriptedPrompts& operator=(const ScriptedPrompts&) = delete;
     ~ScriptedPrompts() override;
 
     std::deque<Answer> answers;
