@@ -10,18 +10,18 @@
 
 #include <optional>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr int clientsBefore = 4000;
 constexpr int killsEach = 40;
 
-ClientPair pairIn(const TestFolder& folder) {
-    return {folder.bytes(QStringLiteral("nevek1.dat")), folder.bytes(QStringLiteral("kozl3sor.dat"))};
-}
+ClientPair pairIn(const TestFolder& folder) { return {folder.bytes(u"nevek1.dat"_s), folder.bytes(u"kozl3sor.dat"_s)}; }
 
 void store(const TestFolder& folder, const ClientPair& pair) {
-    folder.setBytes(QStringLiteral("nevek1.dat"), pair.clients);
-    folder.setBytes(QStringLiteral("kozl3sor.dat"), pair.twins);
+    folder.setBytes(u"nevek1.dat"_s, pair.clients);
+    folder.setBytes(u"kozl3sor.dat"_s, pair.twins);
 }
 
 bool same(const ClientPair& a, const ClientPair& b) { return a.clients == b.clients && a.twins == b.twins; }
@@ -67,10 +67,10 @@ Run runProbe(const QString& operation, const TestFolder& folder, const QString& 
 // Wherever the kill comes, the next start finds the whole old or the whole new pair.
 void killAtManyPoints(const QString& operation) {
     const TestFolder source;
-    const QString csvPath = source.folder().file(QStringLiteral("be.csv"));
-    source.setBytes(QStringLiteral("be.csv"), csvOf(clientsBefore, "Regi"));
+    const QString csvPath = source.folder().file(u"be.csv"_s);
+    source.setBytes(u"be.csv"_s, csvOf(clientsBefore, "Regi"));
     ASSERT_EQ(importClients(csvPath, source, ImportMode::overwrite).clients, clientsBefore);
-    source.setBytes(QStringLiteral("be.csv"), csvOf(clientsBefore, "Uj"));
+    source.setBytes(u"be.csv"_s, csvOf(clientsBefore, "Uj"));
     const ClientPair before = pairIn(source);
 
     const Run whole = runProbe(operation, source, csvPath);
@@ -90,7 +90,7 @@ void killAtManyPoints(const QString& operation) {
 
 } // namespace
 
-TEST(Kill, DuringDeleteLeavesOldOrNewPair) { killAtManyPoints(QStringLiteral("delete")); }
-TEST(Kill, DuringWipeLeavesOldOrNewPair) { killAtManyPoints(QStringLiteral("wipe")); }
-TEST(Kill, DuringAppendLeavesOldOrNewPair) { killAtManyPoints(QStringLiteral("append")); }
-TEST(Kill, DuringOverwriteLeavesOldOrNewPair) { killAtManyPoints(QStringLiteral("overwrite")); }
+TEST(Kill, DuringDeleteLeavesOldOrNewPair) { killAtManyPoints(u"delete"_s); }
+TEST(Kill, DuringWipeLeavesOldOrNewPair) { killAtManyPoints(u"wipe"_s); }
+TEST(Kill, DuringAppendLeavesOldOrNewPair) { killAtManyPoints(u"append"_s); }
+TEST(Kill, DuringOverwriteLeavesOldOrNewPair) { killAtManyPoints(u"overwrite"_s); }

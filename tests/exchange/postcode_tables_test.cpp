@@ -19,11 +19,7 @@ TEST(PostcodeTables, RowsBecomeTheBytesOfTheFiles) {
 }
 
 TEST(PostcodeTables, ABadLineIsTold) {
-    struct Row {
-        const char16_t* csv;
-        int badLine;
-    };
-    const Row rows[] = {
+    const std::pair<const char16_t*, int> rows[] = {
         {u"", 1},
         {u"irsz;helyseg\n", 1},
         {u"helyseg;helysegresz;irsz\n", 0},
@@ -33,6 +29,6 @@ TEST(PostcodeTables, ABadLineIsTold) {
         {u"helyseg;helysegresz;irsz\n;;8127\n", 2},
         {u"helyseg;helysegresz;irsz\n\nAba;;8127;\n", 3},
     };
-    for (const Row& row : rows)
-        EXPECT_EQ(settlementTable(row.csv).badLine, row.badLine) << QString::fromUtf16(row.csv).toStdString();
+    for (const auto& [csv, badLine] : rows)
+        EXPECT_EQ(settlementTable(csv).badLine, badLine) << QString::fromUtf16(csv).toStdString();
 }

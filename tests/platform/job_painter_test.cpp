@@ -43,6 +43,14 @@ QByteArray pdfAtResolution(const PrintJob& job, int dotsPerInch) {
     return bytes;
 }
 
+// The columns of each line below the two lines of heading.
+std::vector<QStringList> tableOf(const QString& tool, const QStringList& options, const QByteArray& bytes) {
+    std::vector<QStringList> rows;
+    for (const QString& line : popplerOn(tool, options, bytes).split(u'\n', Qt::SkipEmptyParts).mid(2))
+        rows.push_back(line.simplified().split(u' '));
+    return rows;
+}
+
 // Where the text's top left corner stands. Poppler takes the top from the font's own ascent, just as the painter does.
 void expectAt(const PdfPage& page, const PlacedText& placed) {
     const PdfWord word = page.word(placed.text);
@@ -74,29 +82,23 @@ TEST(JobPainter, millimetresReachThePaperAtEveryResolution) {
 }
 
 TEST(JobPainter, pagesHaveTheSizeOfTheForm) {
-    const struct {
-        PageSetup setup;
-        QSizeF size;
-    } cases[] = {
-        {{1, 9, {}}, {210, 297}},
-        {{2, 9, {}}, {297, 210}},
-        {{1, 27, {}}, {110, 220}},
-        {{2, 27, {}}, {220, 110}},
-        {{1, 28, {}}, {162, 229}},
-        {{2, 28, {}}, {229, 162}},
-        {{2, 27, QSizeF(210, 105)}, {210, 105}},
-        {{1, 27, QSizeF(105, 165)}, {105, 165}},
-        {{1, 9, QSizeF(165, 120)}, {165, 120}},
+    // Orientation, paper, width and height of the form if not 0; width and height of the page.
+    const int cases[][6] = {
+        {1, 9, 0, 0, 210, 297},      {2, 9, 0, 0, 297, 210},      {1, 27, 0, 0, 110, 220},
+        {2, 27, 0, 0, 220, 110},     {1, 28, 0, 0, 162, 229},     {2, 28, 0, 0, 229, 162},
+        {2, 27, 210, 105, 210, 105}, {1, 27, 105, 165, 105, 165}, {1, 9, 165, 120, 165, 120},
     };
     PrintJob job;
-    for (const auto& c : cases)
-        job.pages.push_back({c.setup, {PlacedText{10, 20, arial10, u"itt"_s}}});
+    for (const auto& c : cases) {
+        const auto form = c[2] == 0 ? std::nullopt : std::optional(QSizeF(c[2], c[3]));
+        job.pages.push_back({{c[0], c[1], form}, {PlacedText{10, 20, arial10, u"itt"_s}}});
+    }
     const auto pages = pagesOf(pdf(job));
     ASSERT_EQ(pages.size(), std::size(cases));
     for (std::size_t i = 0; i < pages.size(); ++i) {
         SCOPED_TRACE(i);
-        EXPECT_NEAR(pages[i].size.width(), cases[i].size.width(), 0.01);
-        EXPECT_NEAR(pages[i].size.height(), cases[i].size.height(), 0.01);
+        EXPECT_NEAR(pages[i].size.width(), cases[i][4], 0.01);
+        EXPECT_NEAR(pages[i].size.height(), cases[i][5], 0.01);
         expectAt(pages[i], {10, 20, arial10, u"itt"_s});
     }
 }
@@ -118,20 +120,16 @@ TEST(JobPainter, theMeasuredWidthIsThePrintedOne) {
 }
 
 TEST(JobPainter, textCanBeReadBackAndFontsAreInTheFile) {
+    const QString plain = u"Őrült űrkovács Zsófia, affinitás & <fia>"_s, bold = u"ÁRVÍZTŰRŐ TÜKÖRFÚRÓGÉP"_s;
     const QByteArray bytes =
-        pdf(jobOf({1, 9, {}}, {PlacedText{10, 20, arial10, u"Őrült űrkovács Zsófia, affinitás & <fia>"_s},
-                               PlacedText{10, 40, times14, u"ÁRVÍZTŰRŐ TÜKÖRFÚRÓGÉP"_s}}));
+        pdf(jobOf({1, 9, {}}, {PlacedText{10, 20, arial10, plain}, PlacedText{10, 40, times14, bold}}));
     const QString text = popplerOn(u"pdftotext"_s, {u"-layout"_s}, bytes);
-    EXPECT_TRUE(text.contains(u"Őrült űrkovács Zsófia, affinitás & <fia>"_s)) << text.toStdString();
-    EXPECT_TRUE(text.contains(u"ÁRVÍZTŰRŐ TÜKÖRFÚRÓGÉP"_s)) << text.toStdString();
-
-    // Two lines of heading, then name, type, encoding, emb sub uni, object of two numbers.
-    const QStringList fonts = popplerOn(u"pdffonts"_s, {}, bytes).split(u'\n', Qt::SkipEmptyParts).mid(2);
-    ASSERT_EQ(fonts.size(), 2);
-    for (const QString& font : fonts) {
-        const QStringList columns = font.simplified().split(u' ');
-        EXPECT_EQ(columns[columns.size() - 5], u"yes"_s) << font.toStdString();
-    }
+    EXPECT_TRUE(text.contains(plain) && text.contains(bold)) << text.toStdString();
+    // Name, type, encoding, emb sub uni, object of two numbers.
+    const auto fonts = tableOf(u"pdffonts"_s, {}, bytes);
+    ASSERT_EQ(fonts.size(), 2U);
+    for (const QStringList& columns : fonts)
+        EXPECT_EQ(columns[columns.size() - 5], u"yes"_s) << columns[0].toStdString();
 }
 
 TEST(JobPainter, onePictureIsKeptOnceForAllPages) {
@@ -140,22 +138,19 @@ TEST(JobPainter, onePictureIsKeptOnceForAllPages) {
     PrintJob job;
     for (int page = 0; page < 3; ++page)
         job.pages.push_back({uprightDl, {PlacedPicture{10, 10, 40, 20, picture}}});
-    const QByteArray bytes = pdf(job);
-    // Two lines of heading, then page, num, type, width, height, color, comp, bpc, enc, interp, object, ID, x-ppi ...
-    const QStringList images = popplerOn(u"pdfimages"_s, {u"-list"_s}, bytes).split(u'\n', Qt::SkipEmptyParts).mid(2);
-    ASSERT_EQ(images.size(), 3);
-    for (const QString& image : images) {
-        const QStringList columns = image.simplified().split(u' ');
-        EXPECT_EQ(columns[10], images[0].simplified().split(u' ')[10]);
+    // Page, num, type, width, height, color, comp, bpc, enc, interp, object, ID, x-ppi ...
+    const auto images = tableOf(u"pdfimages"_s, {u"-list"_s}, pdf(job));
+    ASSERT_EQ(images.size(), 3U);
+    for (const QStringList& columns : images) {
+        EXPECT_EQ(columns[10], images[0][10]);
         EXPECT_NEAR(columns[12].toDouble(), 25.4, 0.6); // 40 pixels on 40 mm
     }
 }
 
 TEST(JobPainter, everyPageIsPrintedAndNoOther) {
     PrintJob job;
-    for (const QString& word : {u"egy"_s, u"kettő"_s, u"három"_s})
+    for (const QString& word : {u"egy"_s, u"kettő"_s, u"három"_s, u" "_s})
         job.pages.push_back({sidewaysCheck, {PlacedText{10, 10, arial10, word}}});
-    job.pages.push_back({sidewaysCheck, {PlacedText{0, 0, arial10, u" "_s}}});
     const auto pages = pagesOf(pdf(job));
     ASSERT_EQ(pages.size(), 4U);
     EXPECT_EQ(pages[1].word(u"kettő"_s).text, u"kettő"_s);
@@ -180,11 +175,7 @@ TEST(Paper, aSizeThatTheDeviceLacksTakesTheNextLargerSheet) {
     const QList<QPageSize> office{QPageSize(QPageSize::A3), QPageSize(QPageSize::Letter), QPageSize(QPageSize::A4),
                                   QPageSize(QPageSize::A5), QPageSize(QPageSize::EnvelopeDL)};
     const auto form = [](double width, double height) { return pageOf({1, 9, QSizeF(width, height)}).pageSize(); };
-    const struct {
-        QPageSize wanted;
-        PaperOffer offer;
-        QPageSize sheet;
-    } cases[] = {
+    const std::tuple<QPageSize, PaperOffer, QPageSize> cases[] = {
         {form(210, 105), {office, true}, form(210, 105)},
         {form(210, 105), {office, false}, QPageSize(QPageSize::A4)},
         {form(105, 165), {office, false}, QPageSize(QPageSize::EnvelopeDL)},
@@ -194,6 +185,6 @@ TEST(Paper, aSizeThatTheDeviceLacksTakesTheNextLargerSheet) {
         {form(500, 500), {office, false}, form(500, 500)},
         {form(210, 105), {{}, false}, form(210, 105)},
     };
-    for (const auto& c : cases)
-        EXPECT_EQ(sheetFor(c.wanted, c.offer), c.sheet) << c.wanted.name().toStdString();
+    for (const auto& [wanted, offer, sheet] : cases)
+        EXPECT_EQ(sheetFor(wanted, offer), sheet) << wanted.name().toStdString();
 }

@@ -37,7 +37,11 @@ PdfWord PdfPage::word(const QString& text) const {
     return {};
 }
 
-QString poppler(const QString& tool, const QStringList& arguments) {
+QString popplerOn(const QString& tool, const QStringList& options, const QByteArray& pdf) {
+    QTemporaryFile file;
+    EXPECT_TRUE(file.open() && file.write(pdf) == pdf.size() && file.flush());
+    QStringList arguments = options + QStringList(file.fileName());
+    if (tool == "pdftotext"_L1) arguments.append(u"-"_s);
     QProcess process;
     process.start(tool, arguments);
     const bool ran = process.waitForFinished() && process.exitCode() == 0;
@@ -45,16 +49,4 @@ QString poppler(const QString& tool, const QStringList& arguments) {
     return QString::fromUtf8(process.readAllStandardOutput());
 }
 
-QString popplerOn(const QString& tool, const QStringList& options, const QByteArray& pdf) {
-    QTemporaryFile file;
-    EXPECT_TRUE(file.open() && file.write(pdf) == pdf.size() && file.flush());
-    QStringList arguments = options + QStringList(file.fileName());
-    if (tool == "pdftotext"_L1) arguments.append(u"-"_s);
-    return poppler(tool, arguments);
-}
-
 std::vector<PdfPage> pagesOf(const QByteArray& pdf) { return parsed(popplerOn(u"pdftotext"_s, {u"-bbox"_s}, pdf)); }
-
-std::vector<PdfPage> pagesOfFile(const QString& path) {
-    return parsed(poppler(u"pdftotext"_s, {u"-bbox"_s, path, u"-"_s}));
-}

@@ -22,9 +22,6 @@ struct PdfPage {
 };
 
 std::vector<PdfPage> pagesOf(const QByteArray& pdf);
-std::vector<PdfPage> pagesOfFile(const QString& path);
 
-// Output of a poppler tool for the file, such as "pdffonts".
-QString poppler(const QString& tool, const QStringList& arguments);
-// The same for a PDF in memory.
+// Output of a poppler tool for the PDF, such as "pdffonts".
 QString popplerOn(const QString& tool, const QStringList& options, const QByteArray& pdf);

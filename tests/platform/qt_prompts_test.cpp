@@ -57,42 +57,43 @@ const Message question{Icon::question, u" FIGYELEM "_s, u"A<b>B</b> & Tsa\nMehet
 
 TEST(QtPrompts, aBoxShowsWhatItWasGiven) {
     QtPrompts prompts;
-    const struct {
-        Icon icon;
-        QMessageBox::Icon shown;
-    } icons[] = {
+    const std::pair<Icon, QMessageBox::Icon> icons[] = {
         {Icon::none, QMessageBox::NoIcon},       {Icon::information, QMessageBox::Information},
         {Icon::question, QMessageBox::Question}, {Icon::warning, QMessageBox::Warning},
         {Icon::critical, QMessageBox::Critical},
     };
-    for (const auto& c : icons) {
+    for (const auto& row : icons) {
         onNext<QMessageBox>([&](QMessageBox& box) {
-            EXPECT_EQ(box.icon(), c.shown);
-            EXPECT_EQ(box.windowTitle(), u"! HIBA !"_s);
+            EXPECT_EQ(box.icon(), row.second);
+            EXPECT_EQ(box.windowTitle(), question.title);
             EXPECT_EQ(box.text(), question.text);
             EXPECT_EQ(box.textFormat(), Qt::PlainText);
             EXPECT_EQ(captionsOf(box), QStringList(u"OK"_s));
             press(box, Qt::Key_Escape);
             EXPECT_FALSE(box.isVisible());
         });
-        prompts.tell({c.icon, u"! HIBA !"_s, question.text});
+        prompts.tell({row.first, question.title, question.text});
     }
 }
 
 TEST(QtPrompts, onlyThePressedYesIsAYes) {
     QtPrompts prompts;
+    const auto yes = [](QMessageBox& box) { button(box, u"Igen"_s)->click(); };
+    const auto no = [](QMessageBox& box) { button(box, u"Nem"_s)->click(); };
+    const auto escape = [](QMessageBox& box) { press(box, Qt::Key_Escape); };
+    const auto enter = [](QMessageBox& box) { press(box, Qt::Key_Return); };
     const struct {
         Answer preset;
         std::function<void(QMessageBox&)> act;
         Answer expected;
     } cases[] = {
-        {Answer::yes, [](QMessageBox& box) { button(box, u"Igen"_s)->click(); }, Answer::yes},
-        {Answer::no, [](QMessageBox& box) { button(box, u"Igen"_s)->click(); }, Answer::yes},
-        {Answer::yes, [](QMessageBox& box) { button(box, u"Nem"_s)->click(); }, Answer::no},
-        {Answer::yes, [](QMessageBox& box) { press(box, Qt::Key_Escape); }, Answer::no},
-        {Answer::yes, [](QMessageBox& box) { box.close(); }, Answer::no},
-        {Answer::yes, [](QMessageBox& box) { press(box, Qt::Key_Return); }, Answer::yes},
-        {Answer::no, [](QMessageBox& box) { press(box, Qt::Key_Return); }, Answer::no},
+        {Answer::yes, yes, Answer::yes},
+        {Answer::no, yes, Answer::yes},
+        {Answer::yes, no, Answer::no},
+        {Answer::yes, escape, Answer::no},
+        {Answer::yes, &QMessageBox::close, Answer::no},
+        {Answer::yes, enter, Answer::yes},
+        {Answer::no, enter, Answer::no},
     };
     for (const auto& c : cases) {
         onNext<QMessageBox>([&](QMessageBox& box) {
@@ -117,10 +118,8 @@ TEST(QtPrompts, thePrintDialogAnswersWithDeviceAndCopies) {
         dialog.findChild<QSpinBox*>(u"copies"_s)->setValue(100);
         button(dialog, u"OK"_s)->click();
     });
-    const auto choice = prompts.choosePrinter(printers, 1);
-    ASSERT_TRUE(choice.has_value());
-    EXPECT_EQ(choice->printer, 2);
-    EXPECT_EQ(choice->copies, 99);
+    const PrinterChoice choice = prompts.choosePrinter(printers, 1).value();
+    EXPECT_EQ(std::tuple(choice.printer, choice.copies), std::tuple(2, 99));
 
     onNext<QDialog>([](QDialog& dialog) { button(dialog, u"Mégse"_s)->click(); });
     EXPECT_FALSE(prompts.choosePrinter(printers, 0).has_value());

@@ -30,6 +30,11 @@ protected:
         files.store(set);
         files.store(layout);
     }
+    void storeAllFlagsBut(std::size_t flag) {
+        set.chkNyomtatando.fill(true);
+        set.chkNyomtatando[flag] = false;
+        storeSettings();
+    }
 
     void addClient(const ClientRec& client, const TwinRec& twin = blankTwin()) const {
         const qint64 number = RecordFile<ClientRec>(files).count() + 1;
@@ -49,11 +54,36 @@ protected:
 
     static std::string joined(const QStringList& texts) { return texts.join(QStringLiteral("; ")).toStdString(); }
     std::string page(std::size_t page = 0) const { return joined(lines(page)); }
+    // Only those with the given part.
+    std::string page(std::size_t page, const QString& part) const { return joined(lines(page).filter(part)); }
 
     const RecordingService::Delivered& lastJob() const { return service.delivered.back(); }
+    const PageSetup& lastSetup() const { return lastJob().job.pages.back().setup; }
 
-    // Fills a settings file with one byte, whole or cut short.
-    void damage(const char* fileName, char byte, qsizetype length) const {
-        files.setBytes(QString::fromLatin1(fileName), QByteArray(length, byte));
+    // Prints with one flag of the settings off after the other; `gone` are the rows, counted from 1, that go with it.
+    template<class Print>
+    void expectRowsGone(std::initializer_list<std::pair<std::size_t, std::vector<int>>> flags, Print print) {
+        print();
+        const QStringList all = lines();
+        for (const auto& [flag, gone] : flags) {
+            storeAllFlagsBut(flag);
+            QStringList expected = all;
+            for (auto row = gone.rbegin(); row != gone.rend(); ++row)
+                expected.removeAt(*row - 1);
+            print();
+            EXPECT_EQ(page(), joined(expected)) << flag;
+        }
+    }
+
+    // Prints with settings and twins full of one byte, whole, cut short and too long.
+    template<class Print>
+    void printWithDamaged(const char* settings, qsizetype size, Print print) const {
+        for (const char byte : {'\xff', '\0', '9'}) {
+            for (const qsizetype length : {qsizetype{0}, qsizetype{1}, size - 1, size, qsizetype{2000}}) {
+                for (const char* name : {settings, TwinRec::fileName})
+                    files.setBytes(QString::fromLatin1(name), QByteArray(length, byte));
+                print();
+            }
+        }
     }
 };

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 class PrintDeviceTest : public testing::Test {
@@ -10,8 +12,8 @@ protected:
     RecordingService service;
     PrintDevice device{service};
 
-    void SetUp() override {
-        device.setFontName(QStringLiteral("Arial CE"));
+    PrintDeviceTest() {
+        device.setFontName(u"Arial CE"_s);
         device.setFontSize(10);
     }
 
@@ -29,7 +31,7 @@ protected:
 
     // The set-up of the page that a write begins now.
     PageSetup setupNow() {
-        write(QStringLiteral("x"));
+        write(u"x"_s);
         device.EndDoc();
         return service.delivered.back().job.pages.front().setup;
     }
@@ -38,19 +40,18 @@ protected:
 TEST_F(PrintDeviceTest, PenMovesBehindTheTextOrOneLineDown) {
     device.setCurrentX(20);
     device.setCurrentY(30);
-    device.Print(QStringLiteral("abc"), LineEnd::no);
+    device.Print(u"abc"_s, LineEnd::no);
     EXPECT_FLOAT_EQ(device.CurrentX(), 23);
     EXPECT_FLOAT_EQ(device.CurrentY(), 30);
     device.Print(QString(), LineEnd::yes); // moves the pen, places nothing
     EXPECT_FLOAT_EQ(device.CurrentX(), 0);
     EXPECT_FLOAT_EQ(device.CurrentY(), 34); // the line of the font that was in force at the line end
     device.setFontSize(20);
-    device.Print(QStringLiteral("d"), LineEnd::yes);
+    device.Print(u"d"_s, LineEnd::yes);
     EXPECT_FLOAT_EQ(device.CurrentY(), 42);
     device.EndDoc();
-    ASSERT_EQ(service.delivered.size(), 1U);
-    EXPECT_EQ(placedTexts(service.delivered[0].job.pages.at(0)),
-              QStringList({QStringLiteral("20.00 30.00 10 Arial CE|abc"), QStringLiteral("0.00 34.00 20 Arial CE|d")}));
+    EXPECT_EQ(placedTexts(service.delivered.at(0).job.pages.at(0)),
+              QStringList({u"20.00 30.00 10 Arial CE|abc"_s, u"0.00 34.00 20 Arial CE|d"_s}));
 }
 
 TEST_F(PrintDeviceTest, NoBlankPagesAndNoEmptyJobs) {
@@ -60,51 +61,45 @@ TEST_F(PrintDeviceTest, NoBlankPagesAndNoEmptyJobs) {
     device.EndDoc();
     EXPECT_TRUE(service.delivered.empty());
 
-    write(QStringLiteral("one"));
+    write(u"one"_s);
     device.NewPage();
     EXPECT_FLOAT_EQ(device.CurrentY(), 0);
-    write(QStringLiteral("two"));
+    write(u"two"_s);
     device.NewPage();
     device.NewPage();
     EXPECT_EQ(device.pageCount(), 2);
     device.EndDoc();
-    ASSERT_EQ(service.delivered.size(), 1U);
-    EXPECT_EQ(service.delivered[0].job.pages.size(), 2U);
+    EXPECT_EQ(service.delivered.at(0).job.pages.size(), 2U);
 }
 
-TEST_F(PrintDeviceTest, KillDocDropsTheWholeJob) {
-    write(QStringLiteral("one"));
+TEST_F(PrintDeviceTest, KilledOrRefusedJobIsGoneWhole) {
+    write(u"one"_s);
     device.NewPage();
-    write(QStringLiteral("two"));
+    write(u"two"_s);
     device.KillDoc();
+    EXPECT_EQ(device.pageCount(), 0);
     device.EndDoc();
     EXPECT_TRUE(service.delivered.empty());
-    EXPECT_EQ(device.pageCount(), 0);
-}
-
-TEST_F(PrintDeviceTest, RefusedJobEndsToo) {
     service.refuseWith = 482;
-    write(QStringLiteral("refused"));
+    write(u"refused"_s);
     EXPECT_EQ(errorOf([&] { device.EndDoc(); }), 482);
     service.refuseWith = 0;
-    write(QStringLiteral("next"));
-    device.EndDoc();
-    ASSERT_EQ(service.delivered.size(), 1U);
-    EXPECT_EQ(service.delivered[0].job.pages.size(), 1U);
+    setupNow();
+    EXPECT_EQ(service.delivered.at(0).job.pages.size(), 1U);
 }
 
 TEST_F(PrintDeviceTest, FontErrorsLeaveTheFont) {
-    EXPECT_EQ(errorOf([&] { device.setFontName(QStringLiteral("Nincs ilyen")); }), 380);
-    EXPECT_EQ(errorOf([&] { device.setFontName(QStringLiteral("   ")); }), 380);
+    EXPECT_EQ(errorOf([&] { device.setFontName(u"Nincs ilyen"_s); }), 380);
+    EXPECT_EQ(errorOf([&] { device.setFontName(u"   "_s); }), 380);
     for (const float size : {0.0F, -1.0F, 0.5F, std::numeric_limits<float>::quiet_NaN()})
         EXPECT_EQ(errorOf([&] { device.setFontSize(size); }), 380) << size;
-    EXPECT_EQ(device.font(), (Font{QStringLiteral("Arial CE"), 10}));
-    device.setFontName(QStringLiteral("Times New Roman CE       "));
-    EXPECT_EQ(device.font().name, QStringLiteral("Times New Roman CE"));
+    EXPECT_EQ(device.font(), (Font{u"Arial CE"_s, 10}));
+    device.setFontName(u"Times New Roman CE       "_s);
+    EXPECT_EQ(device.font().name, u"Times New Roman CE"_s);
 
     PrintDevice fresh(service);
-    EXPECT_EQ(errorOf([&] { fresh.Print(QStringLiteral("x"), LineEnd::yes); }), 380);
-    EXPECT_EQ(errorOf([&] { fresh.TextWidth(QStringLiteral("x")); }), 380);
+    EXPECT_EQ(errorOf([&] { fresh.Print(u"x"_s, LineEnd::yes); }), 380);
+    EXPECT_EQ(errorOf([&] { fresh.TextWidth(u"x"_s); }), 380);
     EXPECT_EQ(fresh.pageCount(), 0);
 }
 
@@ -126,25 +121,17 @@ TEST_F(PrintDeviceTest, PageSetupLivesOnUntilADeviceIsSelected) {
     EXPECT_NEAR(setupNow().sizeMm->height(), 50.8, 0.001);
     device.setCurrentPrinter(0);
     EXPECT_EQ(setupNow(), PageSetup());
-}
 
-TEST_F(PrintDeviceTest, SetupCountsWhenThePageBegins) {
-    write(QStringLiteral("first"));
-    device.setOrientation(2);
-    write(QStringLiteral("still the first page"));
+    write(u"first"_s);
+    device.setOrientation(2); // counts from the next page on
+    write(u"still the first page"_s);
     device.NewPage();
-    write(QStringLiteral("second"));
-    device.EndDoc();
-    const auto& pages = service.delivered.at(0).job.pages;
-    EXPECT_EQ(pages.at(0).setup.orientation, 1);
-    EXPECT_EQ(pages.at(1).setup.orientation, 2);
+    EXPECT_EQ(setupNow().orientation, 1);
+    EXPECT_EQ(service.delivered.back().job.pages.at(1).setup.orientation, 2);
 }
 
 TEST_F(PrintDeviceTest, DeviceOfAJob) {
-    const auto printerNow = [&] {
-        setupNow();
-        return service.delivered.back().printer;
-    };
+    const auto printerNow = [&] { return setupNow(), service.delivered.back().printer; };
     EXPECT_EQ(printerNow(), 2); // a new device follows the system's default
     device.setCurrentPrinter(0);
     EXPECT_EQ(printerNow(), 0);
@@ -164,21 +151,18 @@ TEST_F(PrintDeviceTest, ChoiceAndTitleHoldForOneJob) {
     device.setCurrentPrinter(0);
     device.setOrientation(2);
     for (const bool killed : {false, true}) {
-        device.setTitle(QStringLiteral("form"));
+        device.setTitle(u"form"_s);
         device.useForThisJob(1, 3);
-        EXPECT_EQ(device.deviceName(), QStringLiteral("Masodik"));
-        write(QStringLiteral("x"));
+        EXPECT_EQ(device.deviceName(), u"Masodik"_s);
+        write(u"x"_s);
         killed ? device.KillDoc() : device.EndDoc();
     }
     setupNow();
     ASSERT_EQ(service.delivered.size(), 2U);
-    EXPECT_EQ(service.delivered[0].printer, 1);
-    EXPECT_EQ(service.delivered[0].job.copies, 3);
-    EXPECT_EQ(service.delivered[0].job.title, QStringLiteral("form"));
-    EXPECT_EQ(service.delivered[0].job.pages[0].setup.orientation, 2);
-    EXPECT_EQ(service.delivered[1].printer, 0);
-    EXPECT_EQ(service.delivered[1].job.copies, 1);
-    EXPECT_EQ(service.delivered[1].job.title, QStringLiteral("Tarlimo"));
+    const auto& [chosen, next] = std::tie(service.delivered[0], service.delivered[1]);
+    EXPECT_EQ(std::tuple(chosen.printer, chosen.job.copies, chosen.job.title), std::tuple(1, 3, u"form"_s));
+    EXPECT_EQ(chosen.job.pages[0].setup.orientation, 2);
+    EXPECT_EQ(std::tuple(next.printer, next.job.copies, next.job.title), std::tuple(0, 1, u"Tarlimo"_s));
 }
 
 } // namespace

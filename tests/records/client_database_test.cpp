@@ -5,18 +5,21 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
+
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
-const QString clientFile = QStringLiteral("nevek1.dat");
-const QString twinFile = QStringLiteral("kozl3sor.dat");
-const QString nextClients = QStringLiteral("nevx.dat");
-const QString nextTwins = QStringLiteral("xxkoz.dat");
-const QString previousClients = QStringLiteral("nevek1.regi");
-const QString marker = QStringLiteral("csere.kesz");
+const QString clientFile = u"nevek1.dat"_s;
+const QString twinFile = u"kozl3sor.dat"_s;
+const QString nextClients = u"nevx.dat"_s;
+const QString nextTwins = u"xxkoz.dat"_s;
+const QString marker = u"csere.kesz"_s;
 
 Client numbered(int number) {
-    Client client{clientNamed(QStringLiteral("Ügyfél %1").arg(number), number), blankTwin()};
-    client.twin.Kozl3Sor.set(QStringLiteral("sor %1").arg(number));
+    Client client{clientNamed(u"Ügyfél %1"_s.arg(number), number), blankTwin()};
+    client.twin.Kozl3Sor.set(u"sor %1"_s.arg(number));
     return client;
 }
 
@@ -47,65 +50,70 @@ void expectNoTrace(const TestFolder& folder) {
         EXPECT_TRUE(name == clientFile || name == twinFile) << name.toStdString();
 }
 
-QByteArray sizesOf(const ClientPair& pair) {
-    return QByteArray::number(pair.clients.size()) + ' ' + QByteArray::number(pair.twins.size()) + '\n';
+const ClientPair old = pairOf({1, 2, 3});
+const ClientPair next = pairOf({1, 3});
+
+// Puts files of a commit from `old` to `next` on the disk, a letter each: clients, twins, the two that wait to take
+// their places, the former clients, the marker, the two while they are written. o is the old content, n the new one, e
+// none, m the sizes that the marker holds, x junk, and - is no file.
+void layOut(const TestFolder& folder, const QByteArray& letters) {
+    const QStringList files = u"nevek1.dat kozl3sor.dat nevx.dat xxkoz.dat nevek1.regi csere.kesz nevx.dat.a1B2c3 "
+                              "xxkoz.dat.a1B2c3"_s.split(u' ');
+    const QByteArray sizes = QByteArray::number(next.clients.size()) + ' ' + QByteArray::number(next.twins.size());
+    for (int i = 0; i < letters.size(); ++i) {
+        const auto content = i == 1 || i == 3 ? &ClientPair::twins : &ClientPair::clients;
+        const std::map<char, QByteArray> contents{
+            {'o', old.*content}, {'n', next.*content}, {'e', ""}, {'m', sizes + '\n'}, {'x', QByteArray(300, '\xFF')}};
+        const char letter = letters[i];
+        if (letter != '-') folder.setBytes(files[i], contents.at(letter));
+    }
 }
 
 } // namespace
 
 TEST(ClientDatabase, DeleteMovesTheLaterOnesDownInBothFiles) {
-    struct Row {
-        std::vector<int> before;
-        qint64 number;
-        bool deleted;
-        std::vector<int> after;
+    const std::tuple<std::vector<int>, qint64, std::vector<int>> rows[] = {
+        {{1, 2, 3, 4}, 1, {2, 3, 4}},
+        {{1, 2, 3, 4}, 3, {1, 2, 4}},
+        {{1, 2, 3, 4}, 4, {1, 2, 3}},
+        {{1, 2, 3}, 4, {1, 2, 3}},
+        {{1, 2}, 0, {1, 2}},
+        {{1, 2}, -1, {1, 2}},
+        {{1}, 1, {}},
+        {std::vector<int>(), 1, {}},
     };
-    const Row rows[] = {
-        {{1, 2, 3, 4}, 1, true, {2, 3, 4}},
-        {{1, 2, 3, 4}, 3, true, {1, 2, 4}},
-        {{1, 2, 3, 4}, 4, true, {1, 2, 3}},
-        {{1, 2, 3, 4}, 5, false, {1, 2, 3, 4}},
-        {{1, 2}, 0, false, {1, 2}},
-        {{1, 2}, -1, false, {1, 2}},
-        {{1}, 1, true, {}},
-        {{}, 1, false, {}},
-    };
-    for (const Row& row : rows) {
+    for (const auto& [before, number, after] : rows) {
         const TestFolder folder;
-        store(folder, pairOf(row.before));
-        EXPECT_EQ(deleteClient(folder, row.number), row.deleted);
-        expectPair(folder, pairOf(row.after));
+        store(folder, pairOf(before));
+        EXPECT_EQ(deleteClient(folder, number), before != after);
+        expectPair(folder, pairOf(after));
         expectNoTrace(folder);
     }
 }
 
 TEST(ClientDatabase, TwinsComeIntoStepWhenThePairIsRewritten) {
-    const ClientPair whole = pairOf({1, 2, 3});
-    const ClientPair after = pairOf({1, 3});
     const QByteArray zeros(135, '\0');
-    struct Row {
-        const char* what;
-        QByteArray twins, expected;
-    };
-    const Row rows[] = {
-        {"longer", whole.twins + pairOf({9, 9}).twins, after.twins},
-        {"shorter", whole.twins.first(135), after.twins.first(135) + zeros},
+    const std::tuple<const char*, QByteArray, QByteArray> rows[] = {
+        {"longer", old.twins + pairOf({9, 9}).twins, next.twins},
+        {"shorter", old.twins.first(135), next.twins.first(135) + zeros},
         {"none", "", zeros + zeros},
-        {"odd tail", whole.twins.first(270) + "xyz", after.twins.first(135) + zeros},
+        {"odd tail", old.twins.first(270) + "xyz", next.twins.first(135) + zeros},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.what);
+    for (const auto& [what, twins, expected] : rows) {
+        SCOPED_TRACE(what);
         const TestFolder folder;
-        store(folder, {whole.clients + "odd tail", row.twins});
+        store(folder, {old.clients + "odd tail", twins});
         EXPECT_TRUE(deleteClient(folder, 2));
-        expectPair(folder, {after.clients, row.expected});
+        expectPair(folder, {next.clients, expected});
     }
 }
 
-TEST(ClientDatabase, WipeLeavesTwoEmptyFiles) {
+TEST(ClientDatabase, WipeLeavesTwoEmptyFilesAndADroppedReplacementNoTrace) {
     for (const std::vector<int>& before : {std::vector<int>{}, {1, 2, 3}}) {
         const TestFolder folder;
         if (!before.empty()) store(folder, pairOf(before));
+        ClientReplacement(folder).append(numbered(2));
+        expectPair(folder, pairOf(before));
         EXPECT_TRUE(wipeClients(folder));
         EXPECT_TRUE(folder.has(clientFile) && folder.has(twinFile));
         expectPair(folder, {});
@@ -113,18 +121,15 @@ TEST(ClientDatabase, WipeLeavesTwoEmptyFiles) {
     }
 }
 
-TEST(ClientDatabase, AddAppendsAndFillsTheTwinsUp) {
+TEST(ClientDatabase, AddAppendsFillsTheTwinsUpAndKeepsToTheHighestNumber) {
     const TestFolder folder;
     EXPECT_EQ(addClient(folder, numbered(1)), 1);
     EXPECT_EQ(addClient(folder, numbered(2)), 2);
     expectPair(folder, pairOf({1, 2}));
     folder.setBytes(twinFile, "");
     EXPECT_EQ(addClient(folder, numbered(3)), 3);
-    expectPair(folder, {pairOf({1, 2, 3}).clients, QByteArray(270, '\0') + pairOf({3}).twins});
-}
+    expectPair(folder, {old.clients, QByteArray(270, '\0') + pairOf({3}).twins});
 
-TEST(ClientDatabase, AddKeepsToTheHighestNumberThatCanBePicked) {
-    const TestFolder folder;
     folder.setBytes(clientFile, QByteArray((maxClientNumber - 1) * 271, ' '));
     EXPECT_EQ(addClient(folder, numbered(1)), maxClientNumber);
     EXPECT_EQ(addClient(folder, numbered(2)), 0);
@@ -133,29 +138,28 @@ TEST(ClientDatabase, AddKeepsToTheHighestNumberThatCanBePicked) {
 
 TEST(ClientDatabase, ModifyWritesOnlyAClientThatIsThere) {
     const TestFolder folder;
-    store(folder, pairOf({1, 2, 3}));
+    store(folder, old);
     for (const qint64 number : {-1, 0, 4, 99})
         EXPECT_FALSE(modifyClient(folder, number, numbered(7)));
-    expectPair(folder, pairOf({1, 2, 3}));
+    expectPair(folder, old);
     EXPECT_TRUE(modifyClient(folder, 2, numbered(7)));
     expectPair(folder, pairOf({1, 7, 3}));
 }
 
 TEST(ClientDatabase, RefusedCommitLeavesTheOldPair) {
-    const ClientPair old = pairOf({1, 2, 3});
     // Whichever of these names is a folder can't be written or replaced, for any user.
     for (const QString& blocked : {nextClients, nextTwins, marker}) {
         SCOPED_TRACE(blocked.toStdString());
         const TestFolder folder;
         store(folder, old);
-        QDir(folder.folder().path()).mkpath(blocked + QStringLiteral("/benne"));
+        QDir(folder.folder().path()).mkpath(blocked + u"/benne"_s);
         EXPECT_FALSE(deleteClient(folder, 1));
         EXPECT_FALSE(wipeClients(folder));
         expectPair(folder, old);
     }
     const TestFolder folder;
     folder.setBytes(clientFile, old.clients);
-    QDir(folder.folder().path()).mkpath(twinFile + QStringLiteral("/benne"));
+    QDir(folder.folder().path()).mkpath(twinFile + u"/benne"_s);
     EXPECT_FALSE(wipeClients(folder)) << "refused at the second of the two renames";
     EXPECT_EQ(folder.bytes(clientFile), old.clients);
     EXPECT_FALSE(deleteClient(folder, 1)) << "the twins can't be read: they must not become zeros";
@@ -164,7 +168,7 @@ TEST(ClientDatabase, RefusedCommitLeavesTheOldPair) {
 }
 
 TEST(ClientDatabase, MissingProgramFolderIsNoDatabase) {
-    const ProgramFolder nowhere(QStringLiteral("/nincs/ilyen/mappa"));
+    const ProgramFolder nowhere(u"/nincs/ilyen/mappa"_s);
     EXPECT_EQ(clientCount(nowhere), 0);
     EXPECT_EQ(addClient(nowhere, numbered(1)), 0);
     EXPECT_FALSE(deleteClient(nowhere, 1));
@@ -175,127 +179,41 @@ TEST(ClientDatabase, MissingProgramFolderIsNoDatabase) {
 TEST(ClientDatabase, PendingSwapIsFinishedBeforeAnythingIsReadOrReplaced) {
     // The system refused both renames of the session before: the only copy of the old clients has the third name.
     const TestFolder folder;
-    const ClientPair old = pairOf({1, 2, 3});
-    const ClientPair next = pairOf({7, 8});
-    folder.setBytes(QStringLiteral("nevek1.regi"), old.clients);
-    folder.setBytes(clientFile, {});
-    folder.setBytes(twinFile, old.twins);
-    folder.setBytes(nextClients, next.clients);
-    folder.setBytes(nextTwins, next.twins);
-    folder.setBytes(marker, QByteArray::number(next.clients.size()) + ' ' + QByteArray::number(next.twins.size()));
+    layOut(folder, "eonnom");
     EXPECT_TRUE(deleteClient(folder, 1));
-    EXPECT_EQ(folder.bytes(clientFile), pairOf({8}).clients);
-    EXPECT_EQ(folder.bytes(twinFile), pairOf({8}).twins);
-}
-
-TEST(ClientDatabase, ReplacementThatIsNotCommittedLeavesNoTrace) {
-    const TestFolder folder;
-    store(folder, pairOf({1}));
-    {
-        ClientReplacement replacement(folder);
-        replacement.append(numbered(2));
-    }
-    expectPair(folder, pairOf({1}));
-    expectNoTrace(folder);
+    expectPair(folder, pairOf({3}));
 }
 
 // Every state of the disk between two steps of a commit, in their order, and some that no commit leaves.
 TEST(ClientDatabase, StartFinishesOrDropsWhatAKilledCommitLeft) {
-    const ClientPair old = pairOf({1, 2, 3});
-    const ClientPair next = pairOf({1, 3});
-    const QByteArray sizes = sizesOf(next);
-    using Files = std::vector<std::pair<QString, QByteArray>>;
-    struct Row {
+    struct {
         const char* what;
-        Files files;
-        bool isNew;
+        const char* files;
+        const ClientPair& pair;
         bool finished = true;
+    } const rows[] = {
+        {"nothing", "oo", old},
+        {"unfinished writes", "oo----xx", old},
+        {"first file whole", "oon", old},
+        {"both whole, no marker", "oonn", old},
+        {"marker", "oonn-m", next},
+        {"old clients aside", "-onnom", next},
+        {"new clients in place", "no-nom", next},
+        {"both in place", "nn--om", next},
+        {"marker gone", "nn--o", next},
+        {"one file put back", "oo-n-m", old, false},
+        {"damaged clients", "ooxn-m", old, false},
+        {"damaged twins, clients in place", "no-xom", old, false},
+        {"damaged twins, old clients aside", "-onxom", old, false},
+        {"stale marker after later changes", "oo---m", old, false},
+        {"marker of junk", "oonn-x", old, false},
     };
-    const Row rows[] = {
-        {"nothing", {{clientFile, old.clients}, {twinFile, old.twins}}, false},
-        {"unfinished writes",
-         {{clientFile, old.clients},
-          {twinFile, old.twins},
-          {nextClients + QStringLiteral(".a1B2c3"), "x"},
-          {nextTwins + QStringLiteral(".a1B2c3"), "x"}},
-         false},
-        {"first file whole", {{clientFile, old.clients}, {twinFile, old.twins}, {nextClients, next.clients}}, false},
-        {"both whole, no marker",
-         {{clientFile, old.clients}, {twinFile, old.twins}, {nextClients, next.clients}, {nextTwins, next.twins}},
-         false},
-        {"marker",
-         {{clientFile, old.clients},
-          {twinFile, old.twins},
-          {nextClients, next.clients},
-          {nextTwins, next.twins},
-          {marker, sizes}},
-         true},
-        {"old clients aside",
-         {{previousClients, old.clients},
-          {twinFile, old.twins},
-          {nextClients, next.clients},
-          {nextTwins, next.twins},
-          {marker, sizes}},
-         true},
-        {"new clients in place",
-         {{previousClients, old.clients},
-          {clientFile, next.clients},
-          {twinFile, old.twins},
-          {nextTwins, next.twins},
-          {marker, sizes}},
-         true},
-        {"both in place",
-         {{previousClients, old.clients}, {clientFile, next.clients}, {twinFile, next.twins}, {marker, sizes}},
-         true},
-        {"marker gone", {{previousClients, old.clients}, {clientFile, next.clients}, {twinFile, next.twins}}, true},
-        {"one file put back",
-         {{clientFile, old.clients}, {twinFile, old.twins}, {nextTwins, next.twins}, {marker, sizes}},
-         false,
-         false},
-        {"damaged clients",
-         {{clientFile, old.clients},
-          {twinFile, old.twins},
-          {nextClients, "short"},
-          {nextTwins, next.twins},
-          {marker, sizes}},
-         false,
-         false},
-        {"damaged twins, clients in place",
-         {{previousClients, old.clients},
-          {clientFile, next.clients},
-          {twinFile, old.twins},
-          {nextTwins, "short"},
-          {marker, sizes}},
-         false,
-         false},
-        {"damaged twins, old clients aside",
-         {{previousClients, old.clients},
-          {twinFile, old.twins},
-          {nextClients, next.clients},
-          {nextTwins, "short"},
-          {marker, sizes}},
-         false,
-         false},
-        {"stale marker after later changes",
-         {{clientFile, old.clients}, {twinFile, old.twins}, {marker, sizes}},
-         false,
-         false},
-        {"marker of junk",
-         {{clientFile, old.clients},
-          {twinFile, old.twins},
-          {nextClients, next.clients},
-          {nextTwins, next.twins},
-          {marker, QByteArray(300, '\xFF')}},
-         false,
-         false},
-    };
-    for (const Row& row : rows) {
+    for (const auto& row : rows) {
         SCOPED_TRACE(row.what);
         const TestFolder folder;
-        for (const auto& [name, bytes] : row.files)
-            folder.setBytes(name, bytes);
+        layOut(folder, row.files);
         EXPECT_EQ(finishInterruptedCommit(folder), row.finished);
-        expectPair(folder, row.isNew ? next : old);
+        expectPair(folder, row.pair);
         expectNoTrace(folder);
         EXPECT_TRUE(finishInterruptedCommit(folder));
         EXPECT_TRUE(deleteClient(folder, 1)) << "the next commit is not hindered";

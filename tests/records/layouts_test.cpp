@@ -4,10 +4,12 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 // The compiler checks sizes and offsets; here it is the bytes themselves, written down by hand.
 TEST(Layouts, ClientAndTwinAreTheseBytes) {
     const TestFolder folder;
-    ClientRec client = clientNamed(QStringLiteral("Szűcs Ödön"), 12500);
+    ClientRec client = clientNamed(u"Szűcs Ödön"_s, 12500);
     client.Osszegek[11] = -1;
     client.Kulfoldi = true;
     folder.store(client);
@@ -22,16 +24,15 @@ TEST(Layouts, ClientAndTwinAreTheseBytes) {
             .leftJustified(72) +
         QByteArray("Budapest").leftJustified(40) + QByteArray("F\xF5 utca 1.").leftJustified(45) + "1024  " +
         QByteArray("\xD4\x30\0\0", 4) + QByteArray(40, '\0') + QByteArray(4, '\xFF') + QByteArray(58, ' ') + "\xFF\xFF";
-    EXPECT_EQ(folder.bytes(QStringLiteral("nevek1.dat")), expected);
-    EXPECT_EQ(folder.bytes(QStringLiteral("kozl3sor.dat")),
-              QByteArray(105, ' ') + QByteArray("RL 1").leftJustified(30));
+    EXPECT_EQ(folder.bytes(u"nevek1.dat"_s), expected);
+    EXPECT_EQ(folder.bytes(u"kozl3sor.dat"_s), QByteArray(105, ' ') + QByteArray("RL 1").leftJustified(30));
 }
 
 TEST(Layouts, DamagedRecordsReadWithoutHarm) {
     for (const char junk : {'\0', '\xFF', '\x81'}) {
         const TestFolder folder;
-        folder.setBytes(QStringLiteral("nevek1.dat"), QByteArray(271, junk));
-        folder.setBytes(QStringLiteral("Budapest.dat"), QByteArray(62, junk));
+        folder.setBytes(u"nevek1.dat"_s, QByteArray(271, junk));
+        folder.setBytes(u"Budapest.dat"_s, QByteArray(62, junk));
         const auto client = readRecord<ClientRec>(folder);
         EXPECT_EQ(client.Nev.trimmed().size(), junk == '\0' ? 0 : 36);
         EXPECT_EQ(isUsableAmount(client.Osszegek[0]), false);

@@ -5,7 +5,11 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
+
+const QString name = u"Proba.dat"_s;
 
 struct Rec {
     static constexpr auto fileName = "Proba.dat";
@@ -19,17 +23,16 @@ const Rec abc{QStringView(u"abc")};
 } // namespace
 
 TEST(RecordFile, ReadsAndWritesWhateverTheFileHolds) {
-    struct Row {
+    const QByteArray zeros(3, '\0');
+    const QByteArray ones(3, '\xFF');
+    struct {
         const char* what;
         QByteArray before;
-        qint64 count;
-        qint64 readAt;
+        qint64 count, readAt;
         QByteArray read;
         qint64 writeAt;
         QByteArray after; // of writing "abc"
-    };
-    const QByteArray zeros(3, '\0');
-    const Row rows[] = {
+    } const rows[] = {
         {"empty", "", 0, 1, zeros, 1, "abc"},
         {"one", "xyz", 1, 1, "xyz", 2, "xyzabc"},
         {"overwritten", "uvwxyz", 2, 2, "xyz", 1, "abcxyz"},
@@ -38,42 +41,37 @@ TEST(RecordFile, ReadsAndWritesWhateverTheFileHolds) {
         {"only a tail", "OO", 0, 1, zeros, 1, "abc"},
         {"gap", "xyz", 1, 9, zeros, 3, "xyz" + zeros + "abc"},
         {"gap over a tail", "xyzOO", 1, 0, zeros, 3, "xyz" + zeros + "abc"},
-        {"all 0xFF", QByteArray(7, '\xFF'), 2, 2, QByteArray(3, '\xFF'), 2,
-         QByteArray(3, '\xFF') + "abc" + QByteArray(1, '\xFF')},
-        {"all NUL", QByteArray(6, '\0'), 2, 2, zeros, 3, QByteArray(6, '\0') + "abc"},
+        {"all 0xFF", ones + ones + "\xFF", 2, 2, ones, 2, ones + "abc\xFF"},
+        {"all NUL", zeros + zeros, 2, 2, zeros, 3, zeros + zeros + "abc"},
     };
-    for (const Row& row : rows) {
+    for (const auto& row : rows) {
         SCOPED_TRACE(row.what);
         const TestFolder folder;
-        folder.setBytes(QStringLiteral("Proba.dat"), row.before);
+        folder.setBytes(name, row.before);
         RecordFile<Rec> file(folder);
         EXPECT_EQ(file.count(), row.count);
         EXPECT_EQ(bytesOf(file.read(row.readAt)), row.read);
         EXPECT_EQ(file.readAll(), row.before.first(3 * row.count));
-        EXPECT_EQ(folder.bytes(QStringLiteral("Proba.dat")), row.before) << "reading changed the file";
+        EXPECT_EQ(folder.bytes(name), row.before) << "reading changed the file";
         EXPECT_TRUE(file.write(row.writeAt, abc));
-        EXPECT_EQ(folder.bytes(QStringLiteral("Proba.dat")), row.after);
+        EXPECT_EQ(folder.bytes(name), row.after);
         EXPECT_FALSE(file.write(0, abc));
     }
 }
 
-TEST(RecordFile, OpeningCreatesAMissingFileEmpty) {
+TEST(RecordFile, OpeningCreatesAMissingFileEmptyAndUpdateKeepsWhatTheCallerDoesNotOwn) {
     const TestFolder folder;
     EXPECT_EQ(bytesOf(readRecord<Rec>(folder)), QByteArray(3, '\0'));
-    EXPECT_TRUE(folder.has(QStringLiteral("Proba.dat")));
-    EXPECT_EQ(folder.bytes(QStringLiteral("Proba.dat")), QByteArray());
-}
-
-TEST(RecordFile, UpdateKeepsWhatTheCallerDoesNotOwn) {
-    const TestFolder folder;
-    folder.setBytes(QStringLiteral("Proba.dat"), "xyzO");
+    EXPECT_TRUE(folder.has(name));
+    EXPECT_EQ(folder.bytes(name), QByteArray());
+    folder.setBytes(name, "xyzO");
     EXPECT_TRUE(updateRecord<Rec>(folder, [](Rec& rec) { rec.text.data()[1] = '!'; }));
-    EXPECT_EQ(folder.bytes(QStringLiteral("Proba.dat")), QByteArray("x!zO"));
+    EXPECT_EQ(folder.bytes(name), QByteArray("x!zO"));
 }
 
 TEST(RecordFile, WhatCannotBeOpenedReadsAsZerosAndRefusesWriting) {
     const TestFolder folder;
-    QDir(folder.folder().path()).mkdir(QStringLiteral("Proba.dat"));
+    QDir(folder.folder().path()).mkdir(name);
     RecordFile<Rec> file(folder);
     EXPECT_EQ(file.count(), 0);
     EXPECT_EQ(bytesOf(file.read(1)), QByteArray(3, '\0'));
@@ -84,11 +82,11 @@ TEST(RecordFile, WhatCannotBeOpenedReadsAsZerosAndRefusesWriting) {
 
 TEST(RecordFile, WriteProtectedFileIsStillRead) {
     const TestFolder folder;
-    folder.setBytes(QStringLiteral("Proba.dat"), "xyz");
-    const QString path = folder.folder().file(QStringLiteral("Proba.dat"));
+    folder.setBytes(name, "xyz");
+    const QString path = folder.folder().file(name);
     QFile::setPermissions(path, QFile::ReadOwner);
     if (QFile probe(path); probe.open(QIODevice::ReadWrite)) GTEST_SKIP() << "this user may write anything";
     EXPECT_EQ(bytesOf(readRecord<Rec>(folder)), QByteArray("xyz"));
     EXPECT_FALSE(updateRecord<Rec>(folder, [](Rec& rec) { rec = abc; }));
-    EXPECT_EQ(folder.bytes(QStringLiteral("Proba.dat")), QByteArray("xyz"));
+    EXPECT_EQ(folder.bytes(name), QByteArray("xyz"));
 }

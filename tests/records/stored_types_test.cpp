@@ -1,7 +1,11 @@
 #include "records/stored_types.h"
 #include "records/windows1250.h"
 
+#include <QStringList>
+
 #include <gtest/gtest.h>
+
+using namespace Qt::Literals::StringLiterals;
 
 TEST(Windows1250, EveryByteSurvives) {
     for (int value = 0; value < 256; ++value) {
@@ -22,57 +26,35 @@ TEST(Text, PadsCutsAndEndsAtTheFirstNul) {
     Text<6> field{};
     EXPECT_EQ(field.stored(), QString());
     field.set(u" őű");
-    EXPECT_EQ(field.stored(), QStringLiteral(" őű   "));
-    EXPECT_EQ(field.trimmed(), QStringLiteral("őű"));
+    EXPECT_EQ(field.stored(), u" őű   "_s);
+    EXPECT_EQ(field.trimmed(), u"őű"_s);
     field.set(u"abcdefgh");
-    EXPECT_EQ(field.stored(), QStringLiteral("abcdef"));
+    EXPECT_EQ(field.stored(), u"abcdef"_s);
     field.data()[3] = '\0';
-    EXPECT_EQ(field.stored(), QStringLiteral("abc"));
+    EXPECT_EQ(field.stored(), u"abc"_s);
 }
 
 TEST(TypedNumbers, ReadByTheirHead) {
-    struct Row {
-        const char16_t* typed;
-        const char* cur;
-        int i16;
-    };
-    const Row rows[] = {
-        {u"12.5", "12.5", 13},
-        {u"  -3", "-3", -3},
-        {u"12,5", "12", 12},
-        {u"abc", "0", 0},
-        {u"", "0", 0},
-        {u"-", "0", 0},
-        {u"12.34565x", "12.3457", 12},
-        {u"+7 mm", "7", 7},
-        {u".25", "0.25", 0},
-        {u"99999", "99999", 32767},
-        {u"-99999", "-99999", -32768},
-        {u"1e3", "1", 1},
-        {u"99999999999999999999", "922337203685477.5807", 32767},
-    };
-    for (const Row& row : rows) {
-        const QString typed = QString::fromUtf16(row.typed);
-        EXPECT_EQ(Cur::fromText(typed).text().toStdString(), row.cur) << typed.toStdString();
-        EXPECT_EQ(leadingI16(typed), row.i16) << typed.toStdString();
+    // What is typed, then as a Cur and as a 16 bit number.
+    const QStringList rows = u"12.5|12.5|13;  -3|-3|-3;12,5|12|12;abc|0|0;|0|0;-|0|0;12.34565x|12.3457|12;+7 mm|7|7;"
+                             ".25|0.25|0;99999|99999|32767;-99999|-99999|-32768;1e3|1|1;"
+                             "99999999999999999999|922337203685477.5807|32767"_s.split(u';');
+    for (const QString& row : rows) {
+        const QString typed = row.section(u'|', 0, 0);
+        EXPECT_EQ(Cur::fromText(typed).text(), row.section(u'|', 1, 1)) << row.toStdString();
+        EXPECT_EQ(leadingI16(typed), row.section(u'|', 2).toInt()) << row.toStdString();
     }
 }
 
-TEST(Cur, SumIsExactAndBecomesTheNearestFloat) {
+TEST(StoredNumbers, KeepTheirBytesAndBecomeTheNearestFloatAndTheShortestText) {
     EXPECT_EQ(Cur::fromText(u"12.3456").plusWhole(10).toFloat(), 22.3456F);
-    EXPECT_EQ(Cur::fromText(u"-0.0001").text(), QStringLiteral("-0.0001"));
+    EXPECT_EQ(Cur::fromText(u"-0.0001").text(), u"-0.0001"_s);
     const Cur top = Cur::fromTenThousandths(std::numeric_limits<std::int64_t>::max());
     EXPECT_EQ(top.plusWhole(1), top);
-}
-
-TEST(Bool16, AnyNonZeroIsTrueAndTrueIsMinusOne) {
+    EXPECT_EQ(plainText(12.3F), u"12.3"_s);
+    EXPECT_EQ(plainText(-8.0F), u"-8"_s);
     Bool16 flag = true;
     EXPECT_EQ(std::memcmp(&flag, "\xFF\xFF", 2), 0);
     std::memcpy(static_cast<void*>(&flag), "\x01\x00", 2);
     EXPECT_TRUE(flag);
-}
-
-TEST(PlainText, IsTheShortestThatReadsBack) {
-    EXPECT_EQ(plainText(12.3F), QStringLiteral("12.3"));
-    EXPECT_EQ(plainText(-8.0F), QStringLiteral("-8"));
 }
