@@ -41,6 +41,12 @@ void EntryCombo::resizeEvent(QResizeEvent* event) {
     if (onPaper_) lineEdit()->setGeometry(0, 0, width() - arrowWidth(), height());
 }
 
+void EntryCombo::changeEvent(QEvent* event) {
+    SteadyCombo::changeEvent(event);
+    // The style sheet of the page keeps the inner box from following by itself.
+    if (onPaper_ && event->type() == QEvent::FontChange) lineEdit()->setFont(font());
+}
+
 void EntryCombo::paintEvent(QPaintEvent* event) {
     if (!onPaper_) {
         SteadyCombo::paintEvent(event);
@@ -52,6 +58,7 @@ void EntryCombo::paintEvent(QPaintEvent* event) {
     painter.fillRect(arrow, QColor(0, 0, 0, 18));
     const double half = arrow.width() / 4;
     const QPointF middle = arrow.center();
+    if (hasFocus()) painter.fillRect(QRectF(0, height() - 1, width(), 1), QColor(0x1f, 0x6f, 0xb5));
     painter.setPen(Qt::NoPen);
     painter.setBrush(QColor(0, 0, 0, 150));
     painter.drawPolygon(QPolygonF(

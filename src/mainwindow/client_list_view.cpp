@@ -3,14 +3,29 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QStyledItemDelegate>
 
 #include <algorithm>
+
+namespace {
+
+// Rows with room above the accents of capitals, which a font's own line height may cut.
+class RoomyRows : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, 5);
+    }
+};
+
+} // namespace
 
 ClientListView::ClientListView(QWidget* parent) : QTreeView(parent) {
     setObjectName(QStringLiteral("ListView1"));
     setToolTip(QStringLiteral("''Delete\" -  kijelöltek törlése a listából").toHtmlEscaped());
     setSelectionMode(ExtendedSelection);
     setSelectionBehavior(SelectRows);
+    setItemDelegate(new RoomyRows(this));
     setRootIsDecorated(false);
     setUniformRowHeights(true); // asks one row for its height, not every one of 300,000
     setAlternatingRowColors(true);
@@ -50,13 +65,15 @@ void ClientListView::keyPressEvent(QKeyEvent* event) {
 }
 
 void ClientListView::mousePressEvent(QMouseEvent* event) {
+    // Another button would select a row whose client isn't the one on the forms.
+    if (event->button() != Qt::LeftButton) return;
     pressed_ = selectionModel()->selection();
     QTreeView::mousePressEvent(event);
 }
 
 void ClientListView::mouseReleaseEvent(QMouseEvent* event) {
-    QTreeView::mouseReleaseEvent(event);
     if (event->button() != Qt::LeftButton) return;
+    QTreeView::mouseReleaseEvent(event);
     // A drag that ends below the last row has selected rows all the same.
     QModelIndex index = indexAt(event->position().toPoint());
     const QItemSelection selected = selectionModel()->selection();

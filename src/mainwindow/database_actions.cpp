@@ -1,5 +1,6 @@
 #include "mainwindow/database_actions.h"
 
+#include "prompts/titles.h"
 #include "settings/general_settings.h"
 
 #include <QCursor>
@@ -10,8 +11,8 @@ namespace {
 const QString importTitle = QStringLiteral("Adatbázis importálása");
 
 void tellNotWritten(Prompts& prompts) {
-    prompts.tell({Icon::critical, QStringLiteral("Hiba"),
-                  QStringLiteral("Az adatbázis nem írható, a korábbi állapot maradt meg.")});
+    prompts.tell(
+        {Icon::critical, titles::error, QStringLiteral("Az adatbázis nem írható, a korábbi állapot maradt meg.")});
 }
 
 // The hourglass for as long as it lives.
@@ -26,8 +27,7 @@ struct WaitCursor {
 
 bool cmdDel_Click(const ProgramFolder& folder, Prompts& prompts, int rekordszam, const QString& shownName) {
     if (rekordszam < 1 || rekordszam > clientCount(folder)) {
-        prompts.tell(
-            {Icon::information, QStringLiteral("Figyelem!"), QStringLiteral(" Nincs kijelölve ügyfél a listáról...")});
+        prompts.tell({Icon::information, titles::attention, QStringLiteral(" Nincs kijelölve ügyfél a listáról...")});
         return false;
     }
     const QString storedName = RecordFile<ClientRec>(folder).read(rekordszam).Nev.trimmed();
@@ -67,12 +67,11 @@ ImportResult mnuAdatCsvbol_Click(const ProgramFolder& folder, Prompts& prompts, 
         result.badAmounts = outcome.badAmounts;
         break;
     case ImportOutcome::Result::empty:
-        prompts.tell(
-            {Icon::critical, QStringLiteral("Hiba"), QStringLiteral("A fájl üres, az adatbázis nem változott.")});
+        prompts.tell({Icon::critical, titles::error, QStringLiteral("A fájl üres, az adatbázis nem változott.")});
         break;
     case ImportOutcome::Result::unreadable:
-        prompts.tell({Icon::critical, QStringLiteral("Hiba"),
-                      QStringLiteral("A fájl nem olvasható, az adatbázis nem változott.")});
+        prompts.tell(
+            {Icon::critical, titles::error, QStringLiteral("A fájl nem olvasható, az adatbázis nem változott.")});
         break;
     case ImportOutcome::Result::notWritten:
         tellNotWritten(prompts);
@@ -93,7 +92,7 @@ void tellImported(const ProgramFolder& folder, Prompts& prompts, const ImportRes
                                  "törölje az adatbázist és ellenőrízze a ''csv'' fájlt,\n"
                                  "majd indítsa el újra az importálást.")});
     if (clientCount(folder) > maxClientNumber)
-        prompts.tell({Icon::information, QStringLiteral("Figyelem!"),
+        prompts.tell({Icon::information, titles::attention,
                       QStringLiteral("Az adatbázis 32767-nél több ügyfelet tartalmaz,\n"
                                      "a többi a listából nem választható ki!")});
 }

@@ -1,5 +1,7 @@
 #include "mainwindow/envelope_label_rules.h"
 
+#include "prompts/titles.h"
+
 #include <algorithm>
 
 namespace {
@@ -45,7 +47,7 @@ std::optional<Cur> decimal(const QString& box) {
     return isNumber ? std::optional(Cur::fromText(text)) : std::nullopt;
 }
 
-Message refusal(const QString& text) { return {Icon::information, QStringLiteral("Figyelem!"), text}; }
+Message refusal(const QString& text) { return {Icon::information, titles::attention, text}; }
 
 } // namespace
 

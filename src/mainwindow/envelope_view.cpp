@@ -66,6 +66,7 @@ EnvelopeView::EnvelopeView(EnvelopeTab& tab, const FormContext& context) : FormV
               {tab.txtBoritekFeladoCim2, "txtBoritekFeladoCim2", "Feladó címe", &tab.chkFKFCim2, "chkFKFCim2"},
               {tab.txtBoritekFeladoIrSzam, "txtBoritekFeladoIrSzam", "Feladó irányítószáma", &tab.chkFKFIrsz,
                "chkFKFIrsz"}});
+    addTexts({{tab.txtFelado5mezo, "txtFelado5mezo", {}, "Feladó alá szabadon írható szöveg..."}});
     addLines(
         "frameCimzett",
         {{tab.txtBoritekCimzettNev, "txtBoritekCimzettNev", "Címzett neve", &tab.chkFKCNev, "chkFKCNev"},
@@ -74,7 +75,6 @@ EnvelopeView::EnvelopeView(EnvelopeTab& tab, const FormContext& context) : FormV
          {tab.txtBoritekCimzettCim2, "txtBoritekCimzettCim2", "Címzett címe", &tab.chkFKCCim2, "chkFKCCim2"},
          {tab.txtBoritekCimzettIrSzam, "txtBoritekCimzettIrSzam", "Címzett irányítószáma", &tab.chkFKCIrsz,
           "chkFKCIrsz", 1}});
-    addTexts({{tab.txtFelado5mezo, "txtFelado5mezo", {}, "Feladó alá szabadon írható szöveg..."}});
     buildSide();
     onShow([this] { placeForType(); });
     connect(this, &FormView::edited, this, [this] { showValues(); });
@@ -183,6 +183,9 @@ QWidget* EnvelopeView::buildPicture() {
     picture->setAlignment(Qt::AlignCenter);
     picture->setAttribute(Qt::WA_TransparentForMouseEvents); // the boxes under it stay within reach
     page()->place(picture, {});
+    QLabel* warning = label("lbFigyelem"); // shown once the picture can be moved off the envelope
+    warning->hide();
+    grid->addWidget(warning, 3, 0, 1, 4);
     onShow([this, box, picture] {
         page()->place(picture, tab_.Image3);
         picture->setVisible(tab_.chkKepPrint);

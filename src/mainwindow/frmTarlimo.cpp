@@ -11,6 +11,7 @@
 #include "mainwindow/receipt_rules.h"
 #include "mainwindow/window_state.h"
 #include "mainwindow/yellow_check_rules.h"
+#include "prompts/titles.h"
 #include "settings/check_layouts.h"
 #include "settings/other_settings.h"
 #include "settings/receipt_layouts.h"
@@ -123,6 +124,7 @@ void frmTarlimo::buildLayout() {
     auto* scroll = new QScrollArea;
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setWidgetResizable(true);
+    scroll->setFocusPolicy(Qt::NoFocus);
     scroll->setWidget(splitter);
     setCentralWidget(scroll);
     progress_->setMaximumWidth(220);
@@ -147,12 +149,12 @@ void frmTarlimo::connectMenu() {
 
 void frmTarlimo::load() {
     if (!finishInterruptedCommit(folder_))
-        services_.prompts.tell({Icon::information, QStringLiteral("Figyelem!"),
+        services_.prompts.tell({Icon::information, titles::attention,
                                 QStringLiteral("Az ügyfelek adatbázisának cseréje legutóbb félbeszakadt,\nés nem "
                                                "fejezhető be. A korábbi adatbázis maradt meg.")});
     if (!folder_.isWritable())
         services_.prompts.tell(
-            {Icon::information, QStringLiteral("Figyelem!"),
+            {Icon::information, titles::attention,
              QStringLiteral("A program mappája nem írható,\naz adatok és a beállítások nem menthetők!")});
     showSheet(tabs_.label, readRecord<CimkeSetup>(folder_));
     panel_->offerPrinters(device_.Printers(), services_.printing.defaultPrinter());
@@ -243,7 +245,7 @@ void frmTarlimo::reloadTab(int tab) {
 void frmTarlimo::rowClicked(int row) {
     const int number = clients_->recordNumber(row);
     if (number > maxClientNumber) {
-        services_.prompts.tell({Icon::information, QStringLiteral("Figyelem!"),
+        services_.prompts.tell({Icon::information, titles::attention,
                                 QStringLiteral("A 32767. rekord utáni ügyfelek innen nem választhatók ki!")});
         return;
     }
@@ -285,7 +287,10 @@ void frmTarlimo::press(Press press) {
     panel_->setButtonsEnabled(false);
     const PrintDesk desk{device_, services_.prompts, folder_};
     const auto outcome = dispatchPrint(desk, tabs_, SSTab1_->currentIndex(), panel_->feed(), press, clients_->rows());
-    if (outcome) report(*outcome);
+    if (outcome)
+        report(*outcome);
+    else
+        statusBar()->showMessage(QStringLiteral("Nem készült nyomat."));
     panel_->setButtonsEnabled(true);
 }
 

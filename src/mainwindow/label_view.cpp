@@ -38,6 +38,7 @@ LabelView::LabelView(LabelTab& tab, const FormContext& context) : BoundView(cont
     note->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
     note->setMinimumHeight(2 * note->fontMetrics().lineSpacing());
     grid->addWidget(note, 2, 0, 1, 3);
+    grid->setRowMinimumHeight(2, note->minimumHeight());
     grid->setColumnStretch(1, 1);
     grid->setColumnMinimumWidth(1, 200);
     grid->setRowStretch(1, 1);
@@ -181,7 +182,11 @@ QGroupBox* LabelView::buildPreview() {
     auto* area = new QScrollArea;
     area->setFrameShape(QFrame::NoFrame);
     area->setWidgetResizable(true);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff); // for the padding of stored texts
     area->setWidget(new QWidget);
+    area->viewport()->setAutoFillBackground(false);
+    area->widget()->setAutoFillBackground(false);
     (new QVBoxLayout(box))->addWidget(area);
     auto* lines = new QVBoxLayout(area->widget());
     struct Line {

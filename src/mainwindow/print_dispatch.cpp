@@ -3,6 +3,7 @@
 #include "printing/amount_in_words.h"
 #include "printing/pink_check.h"
 #include "printing/yellow_check.h"
+#include "prompts/titles.h"
 #include "records/record_file.h"
 #include "settings/general_settings.h"
 
@@ -43,10 +44,8 @@ constexpr Route routes[] = {
      [](auto& desk, auto& tabs, auto& rows) { return PrintCsFekvoRcsekk(desk, tabs.pinkCheck, rows); }},
 };
 
-const QString warningTitle = QStringLiteral(" FIGYELEM ");
-
 bool confirms(Prompts& prompts, const QString& text) {
-    return prompts.ask({Icon::question, warningTitle, text}, Answer::no) == Answer::yes;
+    return prompts.ask({Icon::question, titles::warning, text}, Answer::no) == Answer::yes;
 }
 
 // What a clerk would not expect of the press, asked before anything prints.

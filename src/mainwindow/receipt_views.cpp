@@ -10,10 +10,16 @@
 ReturnReceiptView::ReturnReceiptView(ReturnReceiptTab& tab, const FormContext& context)
     : FormView(context, {165, 105})
     , tab_(tab) {
-    addTexts({{tab.txNev2, "txNev2", {}, "Címzett neve"},
+    addOption(
+        "opBelfold_0", {100, 2, 28, 4.4}, "", "Belföldi", [&tab] { return !tab.foreign; },
+        [&tab] { tab.foreign = false; });
+    addOption(
+        "opBelfold_1", {130, 2, 28, 4.4}, "", "Küldöldi", [&tab] { return tab.foreign; },
+        [&tab] { tab.foreign = true; });
+    addTexts({{tab.txKudemenyAzonosito, "txKudemenyAzonosito", {}, "Küldeményazonosító"},
+              {tab.txNev2, "txNev2", {}, "Címzett neve"},
               {tab.txCim2_1, "txCim2_1", {}, "Címzett helysége"},
               {tab.txCim2_2, "txCim2_2", {}, "Címzett címe"},
-              {tab.txKudemenyAzonosito, "txKudemenyAzonosito", {}, "Küldeményazonosító"},
               {tab.txUgyfelAzonosito, "txUgyfelAzonosito", {99.6, 10.8, 62.4, 4.2}, "Ügyfélazonosító"},
               {tab.txUgyfelSajatJelzese, "txUgyfelSajatJelzese", {99.6, 35.8, 62.4, 4.2}, "Ügyfél saját jelzése"},
               {tab.txtTertiPosta, "txtTertiPosta", {19.6, 22, 25.4, 4.2}, "Felvevő posta"},
@@ -32,12 +38,6 @@ ReturnReceiptView::ReturnReceiptView(ReturnReceiptTab& tab, const FormContext& c
     addMark(tab.chkTUv, "lbX_8", {});
     addMark(tab.chkLevel, "lbX_9", {});
     addMark(tab.chkKCsomag, "lbX_10", {});
-    addOption(
-        "opBelfold_0", {100, 2, 28, 4.4}, "", "Belföldi", [&tab] { return !tab.foreign; },
-        [&tab] { tab.foreign = false; });
-    addOption(
-        "opBelfold_1", {130, 2, 28, 4.4}, "", "Küldöldi", [&tab] { return tab.foreign; },
-        [&tab] { tab.foreign = true; });
     onShow([this] { placeForVariant(); });
     connect(this, &FormView::edited, this, [this](const QString& name) {
         if (name.startsWith(u"opBelfold")) opBelfold_Click(tab_, readRecord<SetTerti>(this->context().folder));

@@ -12,12 +12,11 @@ StationeryPage::StationeryPage(const ProgramFolder& folder, QSizeF sizeMm, QWidg
     , sizeMm_(sizeMm) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     // The paper is light whatever the desktop's colours, and its rows leave no room for a style's frames.
-    setStyleSheet(QStringLiteral(
-        "QLineEdit { color: black; background: rgba(255, 255, 255, 200); border: 1px solid rgba(0, 0, 0, 45);"
-        " border-radius: 1px; padding: 0px; }"
-        "QLineEdit:hover { border-color: rgba(0, 0, 0, 110); }"
-        "QLineEdit:focus { background: white; border: 1px solid #1f6fb5; }"
-        "QLabel { color: black; } QCheckBox, QRadioButton { color: black; }"));
+    setStyleSheet(QStringLiteral("QLineEdit { color: black; background: rgba(255, 255, 255, 200); border: 0px;"
+                                 " border-bottom: 1px solid rgba(0, 0, 0, 60); padding: 0px; }"
+                                 "QLineEdit:hover { border-color: rgba(0, 0, 0, 140); }"
+                                 "QLineEdit:focus { background: white; border-bottom: 1px solid #1f6fb5; }"
+                                 "QLabel { color: black; } QCheckBox, QRadioButton { color: black; }"));
 }
 
 void StationeryPage::setPicture(const QString& fileName, QSizeF sizeMm) {
@@ -58,7 +57,9 @@ QRect StationeryPage::formRect() const {
 void StationeryPage::layOut(const Placed& placed) const {
     const double scale = pixelsPerMm();
     QFont font = placed.child->font();
-    font.setPixelSize(std::max(6, static_cast<int>(std::lround(placed.letterMm * scale))));
+    // A line of text needs 1.2 times its size, or the accents of capitals are cut.
+    const double fitting = (placed.mm.height() * scale - 2) / 1.2;
+    font.setPixelSize(std::max(6, static_cast<int>(std::min(std::round(placed.letterMm * scale), fitting))));
     placed.child->setFont(font);
     const QRectF onPage(placed.mm.topLeft() * scale, placed.mm.size() * scale);
     placed.child->setGeometry(onPage.translated(formRect().topLeft()).toRect());

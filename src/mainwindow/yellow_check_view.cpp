@@ -13,15 +13,7 @@ YellowCheckView::YellowCheckView(YellowCheckTab& tab, const FormContext& context
     addTexts({{tab.txtSzoveg21, "txtSzoveg21", {67.6, 14.8, 68.4, 4.2}, "Összeg betűvel"},
               {tab.txtSzoveg11, "txtSzoveg11", {67.6, 21.8, 68.4, 4.2}, "Összeg betűvel"},
               {tab.txtSzoveg22, "txtSzoveg22", {1.6, 14.8, 61.4, 4.2}},
-              {tab.txtSzoveg12, "txtSzoveg12", {1.6, 21.8, 61.4, 4.2}},
-              {tab.txNev, "txNev", {139.6, 52, 67.4, 3.9}, "Név"},
-              {tab.txCim1, "txCim1", {139.6, 55.9, 67.4, 3.9}, "Helységnév"},
-              {tab.txCim2, "txCim2", {139.6, 59.8, 67.4, 3.9}, "Cím"},
-              {tab.txIrszam, "txIrszam", {139.6, 67.8, 12, 4.2}, "Irányítószám"},
-              {tab.Text1[1], "Text1_1", {4.6, 52, 58.4, 3.9}},
-              {tab.Text1[0], "Text1_0", {4.6, 55.9, 58.4, 3.9}},
-              {tab.Text1[2], "Text1_2", {4.6, 59.8, 58.4, 3.9}},
-              {tab.Text1[3], "Text1_3", {4.6, 67.8, 10.8, 4.2}}});
+              {tab.txtSzoveg12, "txtSzoveg12", {1.6, 21.8, 61.4, 4.2}}});
     addCombo({tab.Kozlemeny1, "Kozlemeny1", {149.6, 5, 57.4, 3.9}, "Közlemény"}, catalogues_.notices);
     addTexts({{tab.txtKozl3sor[0], "txtKozl3sor_0", {149.6, 8.9, 57.4, 3.9}, "Közlemény 3. sora"},
               {tab.Kozlemeny2, "Kozlemeny2", {149.6, 12.8, 57.4, 3.9}, "Közlemény 2. sora"}});
@@ -31,15 +23,22 @@ YellowCheckView::YellowCheckView(YellowCheckTab& tab, const FormContext& context
              catalogues_.secondTitles);
     addTexts({{tab.txtFizHatIdo, "txtFizHatIdo", {24.6, 44.7, 38.9, 3.9}, "Fizetési határidő"},
               {tab.txBefizAzonosito, "txBefizAzonosito", {79.6, 39.6, 56.4, 5.2}, "Befizetőazonosító"}});
-
-    addCheck({tab.Check1, "Check1", {139.6, 40.2, 60, 4.2}, "Kereséshez kipipálni..."},
-             QStringLiteral("Kereséshez kipipálni!"));
-    addTexts({{tab.txNev_2, "txNev_2", {139.6, 45.2, 67.4, 4.2}, "2. Név a boríték címzéshez!"}});
     addCheck({tab.chkBefAzonMasolasa,
               "chkBefAzonMasolasa",
               {67, 46, 72, 4.4},
               "Befizetőazonosító másolása a jogcím mezőbe."},
              QStringLiteral("Befizetőazonosító másolása a jogcím mezőbe."));
+    addCheck({tab.Check1, "Check1", {139.6, 40.2, 60, 4.2}, "Kereséshez kipipálni..."},
+             QStringLiteral("Kereséshez kipipálni!"));
+    addTexts({{tab.txNev_2, "txNev_2", {139.6, 45.2, 67.4, 4.2}, "2. Név a boríték címzéshez!"},
+              {tab.txNev, "txNev", {139.6, 52, 67.4, 3.9}, "Név"},
+              {tab.txCim1, "txCim1", {139.6, 55.9, 67.4, 3.9}, "Helységnév"},
+              {tab.txCim2, "txCim2", {139.6, 59.8, 67.4, 3.9}, "Cím"},
+              {tab.txIrszam, "txIrszam", {139.6, 67.8, 12, 4.2}, "Irányítószám"},
+              {tab.Text1[1], "Text1_1", {4.6, 52, 58.4, 3.9}},
+              {tab.Text1[0], "Text1_0", {4.6, 55.9, 58.4, 3.9}},
+              {tab.Text1[2], "Text1_2", {4.6, 59.8, 58.4, 3.9}},
+              {tab.Text1[3], "Text1_3", {4.6, 67.8, 10.8, 4.2}}});
     connect(this, &FormView::edited, this, &YellowCheckView::runRule);
 }
 

@@ -6,8 +6,8 @@
 #include <QByteArray>
 #include <QDateTime>
 
-// The job as a PDF: fonts embedded, text extractable, every page of exactly the size that was asked for. One copy,
-// whatever the job says: whoever prints the file chooses how many. DeviceError 482.
+// The job as a PDF: fonts embedded, text extractable, every page of exactly the size that was asked for. The
+// job's number of copies is the caller's concern. DeviceError 482.
 QByteArray pdfOf(const PrintJob& job, FontBook& fonts);
 
 // "<yyyy-MM-dd>-<HHmmss>-<title>.pdf"; letters of the title that no file name may hold become '-'.

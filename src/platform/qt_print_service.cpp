@@ -33,6 +33,18 @@ float QtPrintService::textWidth(const Font& font, const QString& text) {
     return static_cast<float>(fonts_.face(font).metrics.horizontalAdvance(text) / paperUnitsPerMm);
 }
 
+namespace {
+
+// A file has no copies: its pages stand in it once for each.
+PrintJob withCopies(PrintJob job) {
+    const std::vector<PrintedPage> once = job.pages;
+    for (int copy = 1; copy < job.copies; ++copy)
+        job.pages.insert(job.pages.end(), once.begin(), once.end());
+    return job;
+}
+
+} // namespace
+
 float QtPrintService::lineHeight(const Font& font) {
     const QFontMetricsF& metrics = fonts_.face(font).metrics;
     return static_cast<float>((metrics.ascent() + metrics.descent()) / paperUnitsPerMm);
@@ -45,7 +57,8 @@ void QtPrintService::deliver(const PrintJob& job, int printer) {
     if (printer + 1 < printers_.size())
         printOn(printers_[printer], job);
     else
-        lastPdf_ = saveNewFile(pdfOf(job, fonts_), pdfFolder_, pdfFileName(job.title, QDateTime::currentDateTime()));
+        lastPdf_ = saveNewFile(pdfOf(withCopies(job), fonts_), pdfFolder_,
+                               pdfFileName(job.title, QDateTime::currentDateTime()));
 }
 
 void QtPrintService::printOn(const QString& name, const PrintJob& job) {

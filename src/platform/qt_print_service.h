@@ -20,7 +20,7 @@ public:
     bool knowsFont(const QString& name) override;
     float textWidth(const Font& font, const QString& text) override;
     float lineHeight(const Font& font) override;
-    // Copies go to system printers; a PDF holds the pages once. DeviceError 9, 482.
+    // In a PDF the pages stand once for each copy. DeviceError 9, 482.
     void deliver(const PrintJob& job, int printer) override;
 
     // Full path of the file that the last job on the PDF device became; empty before.

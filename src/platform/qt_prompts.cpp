@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGridLayout>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -34,6 +35,10 @@ void fill(QMessageBox& box, const Message& message) {
     // Names of clients stand in the texts, and "A<B" must not be taken for markup.
     box.setTextFormat(Qt::PlainText);
     box.setText(message.text);
+    // A box is as wide as its text; a longer title would be cut by the window's frame.
+    constexpr int frameButtons = 90;
+    const int titleWidth = box.fontMetrics().horizontalAdvance(message.title) + frameButtons;
+    static_cast<QGridLayout*>(box.layout())->addItem(new QSpacerItem(titleWidth, 0), 99, 0, 1, -1);
 }
 
 // A button that its first letter presses, as in the boxes of the system.
@@ -44,6 +49,7 @@ QPushButton* addButton(QMessageBox& box, const QString& caption, QMessageBox::Bu
 }
 
 void nameInHungarian(QFileDialog& dialog, const QString& accept) {
+    dialog.resize(760, 460);
     dialog.setLabelText(QFileDialog::LookIn, u"Hely:"_s);
     dialog.setLabelText(QFileDialog::FileName, u"Fájlnév:"_s);
     dialog.setLabelText(QFileDialog::FileType, u"Fájltípus:"_s);

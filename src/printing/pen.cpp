@@ -1,5 +1,7 @@
 #include "printing/pen.h"
 
+#include "prompts/titles.h"
+
 // Runs one step of the job. The only place where a device error is caught.
 template<class Step>
 void Pen::attempt(Step step) {
@@ -146,9 +148,9 @@ void Pen::tellFailure(int number, const QString& description) {
     const QString code = QString::number(number);
     if (way_ == FailureWay::message) {
         const QString text = QStringLiteral("Hiba kódszáma: ") + code + u'\n' + description + u'\n';
-        prompts_->tell({Icon::warning, QStringLiteral("! HIBA !"), text});
+        prompts_->tell({Icon::warning, titles::printError, text});
     } else {
         const QString text = description + QStringLiteral("\nHibakód száma : ") + code;
-        prompts_->tell({Icon::none, QStringLiteral("!  H I B A  ! "), text});
+        prompts_->tell({Icon::none, titles::formError, text});
     }
 }

@@ -1,6 +1,7 @@
 #include "printing/yellow_check.h"
 
 #include "printing/check_batch.h"
+#include "prompts/titles.h"
 
 namespace {
 
@@ -112,8 +113,7 @@ PrintOutcome printTab(const PrintDesk& desk, const YellowCheckTab& tab, FormRun 
     Pen pen(desk, FailureWay::silent, jobTitle());
     pen.StartFromA4();
     if (trimmed(tab.txNev).isEmpty()) {
-        pen.Reject(
-            {Icon::none, QStringLiteral("!  H I B A  ! "), QStringLiteral(" Nincs kijelölve ügyfél a listáról...")});
+        pen.Reject({Icon::none, titles::formError, QStringLiteral(" Nincs kijelölve ügyfél a listáról...")});
         return pen.outcome();
     }
     const auto set = readRecord<Set>(desk.folder);

@@ -1,3 +1,4 @@
+#include "joined_texts.h"
 #include "mainwindow/cash_on_delivery_rules.h"
 #include "mainwindow/pink_check_rules.h"
 #include "mainwindow/yellow_check_rules.h"
@@ -7,8 +8,6 @@
 #include <gtest/gtest.h>
 
 namespace {
-
-const QString limitCaption = QStringLiteral("MAX BEÍRHATÓ ÖSSZEG:");
 
 // With the recording service a character is size / 10 mm wide, so a row of 45 mm takes 45 characters of 10 points.
 Set yellowSet(int size, const QString& font = QStringLiteral("Times New Roman CE")) {
@@ -39,41 +38,36 @@ protected:
 };
 
 struct Amount {
-    const char16_t* typed;
-    int size; // points of the measure
-    QString upper;
-    QString lower;
+    const char* typed;
+    int size;          // points of the measure
+    std::string words; // upper line and lower line
 };
 
 TEST_F(CheckRules, YellowAmountIsWordedAndFitted) {
     const Amount amounts[] = {
-        {u"", 10, QString(), QString()},
-        {u"0", 10, QString(), QString()},
-        {u"abc", 10, QString(), QString()},
-        {u"500", 10, QStringLiteral("Ötszáz"), QString()},
-        {u"0500", 10, QStringLiteral("Ötszáz"), QString()},
-        {u"999", 100, QStringLiteral("Kilencszázkilencvenkilenc"), QString()}, // nothing to part, however wide
-        {u"1000", 10, QStringLiteral("Egyezer-"), QString()},
-        {u"5000", 10, QStringLiteral("Ötezer-"), QString()},
-        {u"12a", 10, QStringLiteral("Tizenkettő"), QString()},
-        {u"12 500", 10, QStringLiteral("Tizenkettőezer-ötszáz"), QString()},
-        {u"12345", 10, QStringLiteral("Tizenkettőezer-háromszáznegyvenöt"), QString()},
-        {u"12345", 20, QStringLiteral("Tizenkettőezer-"), QStringLiteral("háromszáznegyvenöt")},
-        {u"123456789", 15, limitCaption + QStringLiteral("99.999.999"), QString()}, // 30 characters are just 45 mm
-        {u"123456789", 16, limitCaption, QStringLiteral("99.999.999")},
-        {u"12345", 0, QStringLiteral("Tizenkettőezer-háromszáznegyvenöt"), QString()}, // can't be measured
+        {"", 10, "|"},
+        {"0", 10, "|"},
+        {"abc", 10, "|"},
+        {"500", 10, "Ötszáz|"},
+        {"0500", 10, "Ötszáz|"},
+        {"999", 100, "Kilencszázkilencvenkilenc|"}, // nothing to part, however wide
+        {"1000", 10, "Egyezer-|"},
+        {"12a", 10, "Tizenkettő|"},
+        {"12 500", 10, "Tizenkettőezer-ötszáz|"},
+        {"12345", 10, "Tizenkettőezer-háromszáznegyvenöt|"},
+        {"12345", 20, "Tizenkettőezer-|háromszáznegyvenöt"},
+        {"123456789", 15, "MAX BEÍRHATÓ ÖSSZEG:99.999.999|"}, // 30 characters are just 45 mm
+        {"123456789", 16, "MAX BEÍRHATÓ ÖSSZEG:|99.999.999"},
+        {"12345", 0, "Tizenkettőezer-háromszáznegyvenöt|"}, // can't be measured
     };
     for (const Amount& amount : amounts) {
-        SCOPED_TRACE(QString::fromUtf16(amount.typed).toStdString() + " " + std::to_string(amount.size));
+        SCOPED_TRACE(amount.typed + std::to_string(amount.size));
         YellowCheckTab tab;
         tab.txtSzoveg21 = tab.txtSzoveg11 = tab.txtSzoveg22 = tab.txtSzoveg12 = QStringLiteral("régi");
-        tab.txOsszeg = QString::fromUtf16(amount.typed);
+        tab.txOsszeg = QLatin1String(amount.typed);
         txOsszeg_Change(tab, yellowSet(amount.size), device);
-        EXPECT_EQ(tab.txtSzoveg21, amount.upper);
-        EXPECT_EQ(tab.txtSzoveg11, amount.lower);
-        EXPECT_EQ(tab.txtSzoveg22, amount.upper);
-        EXPECT_EQ(tab.txtSzoveg12, amount.lower);
-        EXPECT_EQ(tab.lbOsszeg, tab.txOsszeg);
+        EXPECT_EQ(joined({tab.txtSzoveg21, tab.txtSzoveg11}), amount.words);
+        EXPECT_EQ(joined({tab.txtSzoveg22, tab.txtSzoveg12, tab.lbOsszeg}), amount.words + '|' + amount.typed);
     }
     EXPECT_TRUE(service.delivered.empty());
 }
@@ -90,65 +84,58 @@ TEST_F(CheckRules, PinkAmountFillsItsCopiesByHand) {
     PinkCheckTab tab;
     tab.RtxOsszeg = QStringLiteral("1234567");
     RtxOsszeg_Change(tab, fixedParty(), device);
-    EXPECT_EQ(tab.RtxtSzoveg21, QStringLiteral("Egymilliókettőszázharmincnégyezer-"));
-    EXPECT_EQ(tab.RtxtSzoveg11, QStringLiteral("ötszázhatvanhét"));
-    EXPECT_EQ(tab.RtxtSzoveg12, tab.RtxtSzoveg21); // the copy of the upper line
-    EXPECT_EQ(tab.RtxtSzoveg22, tab.RtxtSzoveg11);
-    EXPECT_EQ(tab.RlbOsszeg, tab.RtxOsszeg);
-    EXPECT_EQ(tab.lbOsszeg2, tab.RtxOsszeg);
+    const std::string words = "Egymilliókettőszázharmincnégyezer-|ötszázhatvanhét";
+    EXPECT_EQ(joined({tab.RtxtSzoveg21, tab.RtxtSzoveg11}), words);
+    EXPECT_EQ(joined({tab.RtxtSzoveg12, tab.RtxtSzoveg22}), words); // the copies, the upper line's first
+    EXPECT_EQ(joined({tab.RlbOsszeg, tab.lbOsszeg2}), "1234567|1234567");
 
     tab.RtxOsszeg = QStringLiteral("10000000"); // eight digits
     RtxOsszeg_Change(tab, fixedParty(), device);
-    EXPECT_EQ(tab.RtxtSzoveg12, limitCaption + QStringLiteral("9.999.999"));
-    EXPECT_EQ(tab.RtxtSzoveg22, QString());
-
-    const PinkCheckTab before = tab;
+    EXPECT_EQ(joined({tab.RtxtSzoveg12, tab.RtxtSzoveg22}), "MAX BEÍRHATÓ ÖSSZEG:9.999.999|");
     tab.RtxOsszeg.clear();
     RtxOsszeg_Change(tab, fixedParty(), device);
     EXPECT_EQ(tab.RtxtSzoveg21 + tab.RtxtSzoveg11 + tab.RlbOsszeg + tab.lbOsszeg2, QString());
-    EXPECT_EQ(tab.RtxtSzoveg12, before.RtxtSzoveg12); // typing into an empty box later sets it anew
+    // Typing into an empty box later sets the copy anew.
+    EXPECT_EQ(tab.RtxtSzoveg12, QStringLiteral("MAX BEÍRHATÓ ÖSSZEG:9.999.999"));
 }
 
 TEST_F(CheckRules, CashOnDeliveryAmountStandsBetweenStars) {
     const Amount amounts[] = {
-        {u"", 10, QStringLiteral("**"), QString()},
-        {u"700", 10, QStringLiteral("*hétszáz*"), QString()},
-        {u"700", 100, QStringLiteral("*"), QStringLiteral("hétszáz*")},
-        {u"12345", 10, QStringLiteral("*Tizenkettőezer-háromszáznegyvenöt*"), QString()},
-        {u"12345", 20, QStringLiteral("*Tizenkettőezer-"), QStringLiteral("háromszáznegyvenöt*")},
+        {"", 10, "**|"},
+        {"700", 10, "*hétszáz*|"},
+        {"700", 100, "*|hétszáz*"},
+        {"12345", 10, "*Tizenkettőezer-háromszáznegyvenöt*|"},
+        {"12345", 20, "*Tizenkettőezer-|háromszáznegyvenöt*"},
         // 49 characters: too wide for a check, not for this form
-        {u"1234567", 10, QStringLiteral("*Egymilliókettőszázharmincnégyezer-ötszázhatvanhét*"), QString()},
-        {u"99999999999", 10, QStringLiteral("*") + limitCaption + QStringLiteral("9.999.999*"), QString()},
+        {"1234567", 10, "*Egymilliókettőszázharmincnégyezer-ötszázhatvanhét*|"},
+        {"99999999999", 10, "*MAX BEÍRHATÓ ÖSSZEG:9.999.999*|"},
     };
     for (const Amount& amount : amounts) {
-        SCOPED_TRACE(QString::fromUtf16(amount.typed).toStdString() + " " + std::to_string(amount.size));
+        SCOPED_TRACE(amount.typed + std::to_string(amount.size));
         CashOnDeliveryTab tab;
-        tab.txUosszeg = QString::fromUtf16(amount.typed);
+        tab.txUosszeg = QLatin1String(amount.typed);
         txUosszeg_Change(tab, yellowSet(amount.size), device);
-        EXPECT_EQ(tab.lbosszegBetuvel1, amount.upper);
-        EXPECT_EQ(tab.lbosszegBetuvel2, amount.lower);
-        EXPECT_EQ(tab.lbUosszeg, tab.txUosszeg);
+        EXPECT_EQ(joined({tab.lbosszegBetuvel1, tab.lbosszegBetuvel2, tab.lbUosszeg}),
+                  amount.words + '|' + amount.typed);
     }
 }
 
-QStringList sender(const PinkCheckTab& tab) {
-    return {tab.RtxNev, tab.RtxCim, tab.txtNevHatul, tab.txtHelysHatul, tab.txtCimHatul, tab.txtIrszHatul};
+std::string sender(const PinkCheckTab& tab) {
+    return joined({tab.RtxNev, tab.RtxCim, tab.txtNevHatul, tab.txtHelysHatul, tab.txtCimHatul, tab.txtIrszHatul});
 }
 
-QStringList addressee(const PinkCheckTab& tab) {
-    return {tab.RlbNev, tab.RlbHelys, tab.RlbCim, tab.RlbIrsz, tab.txtNev, tab.txtHelys, tab.txtCim, tab.txtIrsz};
+std::string addressee(const PinkCheckTab& tab) {
+    return joined(
+        {tab.RlbNev, tab.RlbHelys, tab.RlbCim, tab.RlbIrsz, tab.txtNev, tab.txtHelys, tab.txtCim, tab.txtIrsz});
 }
 
 TEST_F(CheckRules, FixedPartyTakesItsSideAndEmptiesTheOther) {
-    const QString name = QStringLiteral("Állandó Kft."), town = QStringLiteral("Győr"),
-                  street = QStringLiteral("Baross út 2."), postcode = QStringLiteral("902 ");
-    const QStringList asAddressee{name, town, street, postcode, name, town, street, postcode};
-    const QStringList asSender{name, QStringLiteral("902  Győr, Baross út 2."), name, town, street, postcode};
-    const QStringList noSender(6), noAddressee(8);
-
+    const std::string asAddressee = "Állandó Kft.|Győr|Baross út 2.|902~4|Állandó Kft.|Győr|Baross út 2.|902~4";
+    const std::string asSender = "Állandó Kft.|902  Győr, Baross út 2.|Állandó Kft.|Győr|Baross út 2.|902~4";
+    const std::string noSender = "|||||", noAddressee = "|||||||";
     PinkCheckTab tab;
     showClient(tab, clientNamed(QStringLiteral("Kiss Anna")));
-    const QStringList client = sender(tab);
+    const std::string client = sender(tab);
     reload(tab, fixedParty());
     EXPECT_EQ(addressee(tab), asAddressee);
     EXPECT_EQ(sender(tab), client); // the client stays when the tab is shown
@@ -166,17 +153,16 @@ TEST_F(CheckRules, FixedPartyTakesItsSideAndEmptiesTheOther) {
     EXPECT_EQ(tab.RlbNev.trimmed(), QStringLiteral("Kiss Anna"));
 }
 
-QStringList payee(const CashOnDeliveryTab& tab) { return {tab.lbUNev, tab.lbUCim, tab.lbUHelyseg, tab.lbUIrszam}; }
+std::string payee(const CashOnDeliveryTab& tab) {
+    return joined({tab.lbUNev, tab.lbUCim, tab.lbUHelyseg, tab.lbUIrszam});
+}
 
 TEST_F(CheckRules, SwappedPartiesSurviveTheReloadAndComeBackAsStored) {
     SetRcsekk set = fixedParty();
     const ClientRec client = clientNamed(QStringLiteral("Kiss Anna"));
-    const QStringList byBank{QStringLiteral("Állandó Kft."), QStringLiteral("11111111-22222222"),
-                             QStringLiteral("Első Bank"), QStringLiteral("1051")};
-    const QStringList byAddress{QStringLiteral("Állandó Kft."), QStringLiteral("Baross út 2."), QStringLiteral("Győr"),
-                                QStringLiteral("902 ")};
     for (const bool address : {false, true}) {
-        const QStringList& fixed = address ? byAddress : byBank;
+        const char* fixed =
+            address ? "Állandó Kft.|Baross út 2.|Győr|902~4" : "Állandó Kft.|11111111-22222222|Első Bank|1051";
         set.opULapCizett_0 = address;
         CashOnDeliveryTab tab;
         reload(tab, set);
@@ -184,10 +170,9 @@ TEST_F(CheckRules, SwappedPartiesSurviveTheReloadAndComeBackAsStored) {
 
         tab.chkCimzettCsereUlap = true;
         chkCimzettCsereUlap_Click(tab, client, set);
-        EXPECT_EQ(tab.txUNev, QStringLiteral("Állandó Kft."));
-        EXPECT_EQ(tab.txUCim, QStringLiteral("902 , Győr, Baross út 2."));
-        EXPECT_EQ(tab.lbUNev.trimmed(), QStringLiteral("Kiss Anna"));
-        const QStringList swapped = payee(tab);
+        EXPECT_EQ(joined({tab.txUNev, tab.txUCim, tab.lbUNev.trimmed()}),
+                  "Állandó Kft.|902 , Győr, Baross út 2.|Kiss Anna");
+        const std::string swapped = payee(tab);
         reload(tab, set);
         EXPECT_EQ(payee(tab), swapped);
 
@@ -201,12 +186,11 @@ TEST_F(CheckRules, SwappedPartiesSurviveTheReloadAndComeBackAsStored) {
 TEST_F(CheckRules, IdentifierIsCopiedAndTakenBack) {
     YellowCheckTab tab;
     tab.txBefizAzonosito = QStringLiteral("AZ-1");
-    tab.chkBefAzonMasolasa = true;
-    chkBefAzonMasolasa_Click(tab);
-    EXPECT_EQ(tab.txtJogcim2, QStringLiteral("AZ-1"));
-    tab.chkBefAzonMasolasa = false;
-    chkBefAzonMasolasa_Click(tab);
-    EXPECT_EQ(tab.txtJogcim2, QString());
+    for (const bool copied : {true, false}) {
+        tab.chkBefAzonMasolasa = copied;
+        chkBefAzonMasolasa_Click(tab);
+        EXPECT_EQ(tab.txtJogcim2, copied ? tab.txBefizAzonosito : QString());
+    }
 }
 
 TEST_F(CheckRules, DeadlineFollowsTheClientAndSparesTypedTexts) {
@@ -221,9 +205,8 @@ TEST_F(CheckRules, DeadlineFollowsTheClientAndSparesTypedTexts) {
 
     set.chkFizHat = true;
     showClient(tab, first, set);
-    EXPECT_EQ(tab.txtFizHatIdo, QStringLiteral("Fiz.Hat: 2024.05.01"));
-    EXPECT_EQ(tab.Kozlemeny2, tab.txtFizHatIdo);
-    EXPECT_EQ(tab.pouredDeadline, tab.txtFizHatIdo);
+    for (const QString& deadline : {tab.txtFizHatIdo, tab.Kozlemeny2, tab.pouredDeadline})
+        EXPECT_EQ(deadline, QStringLiteral("Fiz.Hat: 2024.05.01"));
     showClient(tab, second, set);
     EXPECT_EQ(tab.txtFizHatIdo, QStringLiteral("Fiz.Hat: "));
 

@@ -13,7 +13,13 @@ protected:
             folder.store(clientNamed(QString::fromUtf16(name)), ++k);
     }
     QString text(int row, int column) { return model.data(model.index(row, column), Qt::DisplayRole).toString(); }
-    using Numbers = std::vector<int>;
+    // Of the records in view, parted by blanks.
+    std::string numbers() const {
+        std::string all;
+        for (const int number : model.recordNumbers())
+            all += (all.empty() ? "" : " ") + std::to_string(number);
+        return all;
+    }
 
     TestFolder folder;
     ClientListModel model;
@@ -63,29 +69,22 @@ TEST_F(ClientList, OddFilesStandInTheListAsTheyAre) {
 TEST_F(ClientList, SearchFindsPartsOfNamesInAnyCase) {
     store({u"Kovács Éva", u"KOVÁCSNÉ Ősz Anna", u"Szőke Béla?", u"nagy  éva", u"Ž. Łukasz"});
     const struct {
-        const char16_t* text;
-        Numbers found;
-    } searches[] = {
-        {u"", {1, 2, 3, 4, 5}},
-        {u"   ", {1, 2, 3, 4, 5}},
-        {u"kovács", {1, 2}},
-        {u" ÉVA ", {1, 4}},
-        {u"ő", {2, 3}},
-        {u"õ", {2, 3}}, // a keyboard without the Hungarian letter
-        {u"nagy éva", {}},
-        {u"nagy  éva", {4}},
-        {u"ž. ł", {5}},
-        {u"eva", {}},
-        {u"?", {3}},
-        {u"Ω", {}},
-        {u"cs n", {}},
-        {u"Fő utca", {}}, // the address isn't looked at
-        {u"an", {2}},
-        {u"nna", {2}},
-    };
+        const char* found;
+        std::vector<const char16_t*> texts;
+    } searches[] = {{"1 2 3 4 5", {u"", u"   "}},
+                    {"1 2", {u"kovács"}},
+                    {"1 4", {u" ÉVA "}},
+                    {"2 3", {u"ő", u"õ"}}, // the second by a keyboard without the Hungarian letter
+                    {"2", {u"an", u"nna"}},
+                    {"4", {u"nagy  éva"}},
+                    {"5", {u"ž. ł"}},
+                    {"3", {u"?"}},
+                    {"", {u"nagy éva", u"eva", u"Ω", u"cs n", u"Fő utca"}}}; // the address isn't looked at
     for (const auto& search : searches) {
-        model.search(folder, search.text);
-        EXPECT_EQ(model.recordNumbers(), search.found) << QString::fromUtf16(search.text).toStdString();
+        for (const char16_t* text : search.texts) {
+            model.search(folder, text);
+            EXPECT_EQ(numbers(), search.found) << QString::fromUtf16(text).toStdString();
+        }
     }
     model.search(folder, QString(300, u'a'));
     EXPECT_EQ(model.rowCount(), 0);
@@ -93,21 +92,23 @@ TEST_F(ClientList, SearchFindsPartsOfNamesInAnyCase) {
     EXPECT_EQ(text(1, 2), QStringLiteral("4")); // bare
     store({u"Éva is here now"});
     model.search(folder, u"éva"); // reads the file afresh
-    EXPECT_EQ(model.recordNumbers(), (Numbers{1, 4}));
+    EXPECT_EQ(numbers(), "1 4");
 }
 
 TEST_F(ClientList, SortIsOffUntilSetAndThenKept) {
     store({u"Zsolt", u"Ádám", u"zoltán", u"Adam", u"ádám", u" Vezető blank"});
     model.Beolvas(folder);
-    EXPECT_EQ(model.recordNumbers(), (Numbers{1, 2, 3, 4, 5, 6}));
+    EXPECT_EQ(numbers(), "1 2 3 4 5 6");
+    const QPersistentModelIndex selected = model.index(0, 1);
     model.setSort(0, Qt::AscendingOrder);
-    EXPECT_EQ(model.recordNumbers(), (Numbers{6, 4, 2, 5, 3, 1})); // 2 and 5 are equal: as in the file
+    EXPECT_EQ(numbers(), "6 4 2 5 3 1");    // 2 and 5 are equal: as in the file
+    EXPECT_EQ(selected, model.index(5, 1)); // the selection goes along
     model.setSort(0, Qt::DescendingOrder);
-    EXPECT_EQ(model.recordNumbers(), (Numbers{1, 3, 2, 5, 4, 6}));
+    EXPECT_EQ(numbers(), "1 3 2 5 4 6");
     model.Beolvas(folder);
-    EXPECT_EQ(model.recordNumbers(), (Numbers{1, 3, 2, 5, 4, 6}));
+    EXPECT_EQ(numbers(), "1 3 2 5 4 6");
     model.search(folder, u"d");
-    EXPECT_EQ(model.recordNumbers(), (Numbers{2, 5, 4}));
+    EXPECT_EQ(numbers(), "2 5 4");
     EXPECT_EQ(model.sortColumn(), 0);
 }
 
@@ -118,33 +119,20 @@ TEST_F(ClientList, NumbersSortAsTexts) {
     model.Beolvas(folder);
     EXPECT_EQ(model.recordNumbers()[1], 2); // the blanks ahead put them in numeric order
     model.cmdBeolvas_Click(folder);
-    EXPECT_EQ((Numbers{model.recordNumber(0), model.recordNumber(1), model.recordNumber(2), model.recordNumber(3)}),
-              (Numbers{1, 10, 100, 11}));
+    EXPECT_EQ(numbers().rfind("1 10 100 11 ", 0), 0U);
 }
 
 TEST_F(ClientList, AddressesSortInHungarianOrderToo) {
-    const struct {
-        const char16_t *town, *postcode;
-    } places[] = {{u"Szeged", u"6720"}, {u"Sopron", u"6720"}, {u"Berlin", u""}, {u"Ózd", u"3600"}};
-    qint64 k = 0;
-    for (const auto& place : places) {
+    for (qint64 k = 0; const auto& [town, postcode] :
+                       {std::pair{u"Szeged", u"6720"}, {u"Sopron", u"6720"}, {u"Berlin", u""}, {u"Ózd", u"3600"}}) {
         ClientRec client = clientNamed(QStringLiteral("A"));
-        client.Helyseg.set(place.town);
-        client.Irsz.set(place.postcode);
+        client.Helyseg.set(town);
+        client.Irsz.set(postcode);
         folder.store(client, ++k);
     }
     model.Beolvas(folder);
     model.setSort(1, Qt::AscendingOrder);
-    EXPECT_EQ(model.recordNumbers(), (Numbers{3, 4, 2, 1}));
-}
-
-TEST_F(ClientList, SortingCarriesTheSelectionAlong) {
-    store({u"C", u"A", u"B"});
-    model.Beolvas(folder);
-    const QPersistentModelIndex selected = model.index(0, 1);
-    model.setSort(0, Qt::AscendingOrder);
-    EXPECT_EQ(selected.row(), 2);
-    EXPECT_EQ(selected.column(), 1);
+    EXPECT_EQ(numbers(), "3 4 2 1");
 }
 
 TEST_F(ClientList, RowsLeaveTheListAndComeBack) {
@@ -153,25 +141,15 @@ TEST_F(ClientList, RowsLeaveTheListAndComeBack) {
     model.Beolvas(folder);
     const QPersistentModelIndex last = model.index(4, 0);
     model.removeRows({2, 1, 2});
-    EXPECT_EQ(model.recordNumbers(), (Numbers{1, 4, 5}));
+    EXPECT_EQ(numbers(), "1 4 5");
     EXPECT_EQ(last.row(), 2); // a block goes without disturbing the others
     model.removeRows({0, 2});
-    EXPECT_EQ(model.recordNumbers(), (Numbers{4}));
+    EXPECT_EQ(numbers(), "4");
     model.removeRows(QList<int>());
     EXPECT_EQ(model.rowCount(), 1);
     EXPECT_EQ(folder.bytes(QStringLiteral("nevek1.dat")), before);
     model.Beolvas(folder);
     EXPECT_EQ(model.rowCount(), 5);
-}
-
-TEST(ButtonRuleTest, BatchNeedsSeveralRowsAndAFormThatHasOne) {
-    EXPECT_FALSE(buttonRule(0, 0).batch);
-    EXPECT_FALSE(buttonRule(1, 0).batch);
-    EXPECT_EQ(buttonRule(1, 0).lbKijelolve, QString());
-    EXPECT_TRUE(buttonRule(2, 0).batch);
-    EXPECT_EQ(buttonRule(2, 0).lbKijelolve, QStringLiteral("2"));
-    EXPECT_FALSE(buttonRule(2, 4).batch);
-    EXPECT_EQ(buttonRule(2, 4).lbKijelolve, QString());
 }
 
 } // namespace

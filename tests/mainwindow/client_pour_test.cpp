@@ -1,3 +1,4 @@
+#include "joined_texts.h"
 #include "mainwindow/client_pour.h"
 #include "support/recording_service.h"
 #include "support/test_folder.h"
@@ -5,19 +6,6 @@
 #include <gtest/gtest.h>
 
 namespace {
-
-struct Control {
-    const char* name;
-    const QString& shown;
-    QString expected;
-};
-
-void expectShown(std::initializer_list<Control> controls) {
-    for (const Control& control : controls)
-        EXPECT_EQ(control.shown.toStdString(), control.expected.toStdString()) << control.name;
-}
-
-QString padded(const char16_t* text, int width) { return QString::fromUtf16(text).leftJustified(width); }
 
 class ClientPour : public testing::Test {
 protected:
@@ -55,89 +43,50 @@ protected:
     PrintDevice device{service};
     FormTabs tabs;
     PourSettings settings{Set::factory(), SetRcsekk::factory()};
+    const YellowCheckTab& yellow = tabs.yellowCheck;
+    const PinkCheckTab& pink = tabs.pinkCheck;
+    const PostingReceiptTab& posting = tabs.postingReceipt;
+    const ReturnReceiptTab& receipt = tabs.returnReceipt;
+    const EnvelopeTab& envelope = tabs.envelope;
+    const DocumentReceiptTab& document = tabs.documentReceipt;
+    const CashOnDeliveryTab& cash = tabs.cashOnDelivery;
+    const LabelTab& label = tabs.label;
 };
 
 TEST_F(ClientPour, DomesticClientReachesEveryForm) {
     settings.set.chkFizHat = true;
     tabs.yellowCheck.chkBefAzonMasolasa = true;
     pour(domestic());
-    const QString name = QStringLiteral("Kovács Éva"), town = QStringLiteral("Budapest"),
-                  street = QStringLiteral("Fő utca 1."), line1 = QStringLiteral("1024   Budapest");
-    const QString storedName = padded(u"Kovács Éva", 36), storedTown = padded(u"Budapest", 40),
-                  storedStreet = padded(u"Fő utca 1.", 45), postcode = QStringLiteral("1024  ");
-    const auto& yellow = tabs.yellowCheck;
-    const auto& pink = tabs.pinkCheck;
-    const auto& posting = tabs.postingReceipt;
-    const auto& receipt = tabs.returnReceipt;
-    const auto& envelope = tabs.envelope;
-    const auto& document = tabs.documentReceipt;
-    const auto& cash = tabs.cashOnDelivery;
-    expectShown({
-        {"txNev", yellow.txNev, name},
-        {"txNev_2", yellow.txNev_2, QStringLiteral("II. emelet")},
-        {"txCim1", yellow.txCim1, town},
-        {"txCim2", yellow.txCim2, street},
-        {"txIrszam", yellow.txIrszam, postcode},
-        {"Text1(0)", yellow.Text1[0], town},
-        {"Text1(1)", yellow.Text1[1], name},
-        {"Text1(2)", yellow.Text1[2], street},
-        {"Text1(3)", yellow.Text1[3], postcode},
-        {"txBefizAzonosito", yellow.txBefizAzonosito, QStringLiteral("AZ-77")},
-        {"txtJogcim2", yellow.txtJogcim2, QStringLiteral("AZ-77")},
-        {"txtKozl3sor(0)", yellow.txtKozl3sor[0], QStringLiteral("harmadik sor")},
-        {"txtKozl3sor(1)", yellow.txtKozl3sor[1], QStringLiteral("harmadik sor")},
-        {"txtFizHatIdo", yellow.txtFizHatIdo, QStringLiteral("Fiz.Hat: ")},
-        {"Kozlemeny2", yellow.Kozlemeny2, QStringLiteral("Fiz.Hat: ")},
-        {"txOsszeg", yellow.txOsszeg, QStringLiteral("1500")},
-        {"txtSzoveg21", yellow.txtSzoveg21, QStringLiteral("Egyezer-ötszáz")},
-        {"RtxNev", pink.RtxNev, storedName},
-        {"RtxCim", pink.RtxCim, postcode + QStringLiteral(" Budapest, ") + storedStreet},
-        {"txtNevHatul", pink.txtNevHatul, storedName},
-        {"txtHelysHatul", pink.txtHelysHatul, town},
-        {"txtCimHatul", pink.txtCimHatul, storedStreet},
-        {"txtIrszHatul", pink.txtIrszHatul, postcode},
-        {"RlbNev", pink.RlbNev, QString()},
-        {"RtxOsszeg", pink.RtxOsszeg, QStringLiteral("1500")},
-        {"RtxtSzoveg12", pink.RtxtSzoveg12, QStringLiteral("Egyezer-ötszáz")},
-        {"txNev3", posting.txNev3, name},
-        {"txCim3_1", posting.txCim3_1, line1},
-        {"txCim3_2", posting.txCim3_2, street},
-        {"txUtanvet", posting.txUtanvet, QStringLiteral("1500")},
-        {"txNev2", receipt.txNev2, name},
-        {"txCim2_1", receipt.txCim2_1, line1},
-        {"txCim2_2", receipt.txCim2_2, street},
-        {"txUgyfelAzonosito", receipt.txUgyfelAzonosito, QStringLiteral("AZ-77")},
-        {"txKudemenyAzonosito", receipt.txKudemenyAzonosito, QStringLiteral("RL123")},
-        {"txUgyfelSajatJelzese", receipt.txUgyfelSajatJelzese, QStringLiteral("SJ-1")},
-        {"txtBoritekCimzettNev", envelope.txtBoritekCimzettNev, name},
-        {"txtBoritekCimzettNev2", envelope.txtBoritekCimzettNev2, QStringLiteral("II. emelet")},
-        {"txtBoritekCimzettCim1", envelope.txtBoritekCimzettCim1, town},
-        {"txtBoritekCimzettCim2", envelope.txtBoritekCimzettCim2, street},
-        {"txtBoritekCimzettIrSzam", envelope.txtBoritekCimzettIrSzam, postcode},
-        {"txtIratCimzettNev", document.txtIratCimzettNev, storedName},
-        {"txtIratCimzettHelyseg", document.txtIratCimzettHelyseg, storedTown},
-        {"txtIratCimzettIrszam", document.txtIratCimzettIrszam, postcode},
-        {"txtIratCimzettUtca", document.txtIratCimzettUtca, storedStreet},
-        {"txtIratFajtaja", document.txtIratFajtaja, QStringLiteral("végzés")},
-        {"txtIratSzama", document.txtIratSzama, QStringLiteral("12/2024")},
-        {"txtIratMelleklet", document.txtIratMelleklet, QStringLiteral("1 db")},
-        {"txUNev", cash.txUNev, storedName},
-        {"txUCim", cash.txUCim, QStringLiteral("1024   Budapest, Fő utca 1.")},
-        {"lbUNev", cash.lbUNev, QString()},
-        {"lbUNevHatul", cash.lbUNevHatul, storedName},
-        {"lbUHelysegHatul", cash.lbUHelysegHatul, line1},
-        {"lbUCimHatul", cash.lbUCimHatul, street},
-        {"lbUIrszamHatul", cash.lbUIrszamHatul, postcode},
-        {"txUosszeg", cash.txUosszeg, QStringLiteral("1500")},
-        {"lbosszegBetuvel1", cash.lbosszegBetuvel1, QStringLiteral("*Egyezer-ötszáz*")},
-        {"lbNev1", tabs.label.lbNev1, storedName},
-        {"lbHelyseg", tabs.label.lbHelyseg, storedTown},
-        {"lbCim", tabs.label.lbCim, storedStreet},
-        {"lbIrsz", tabs.label.lbIrsz, postcode},
-    });
-    const QStringList offered{QStringLiteral("1500"), QStringLiteral("2500")};
-    EXPECT_EQ(yellow.amounts, offered);
-    EXPECT_EQ(pink.amounts, offered);
+    EXPECT_EQ(joined({yellow.txNev, yellow.txNev_2, yellow.txCim1, yellow.txCim2, yellow.txIrszam}),
+              "Kovács Éva|II. emelet|Budapest|Fő utca 1.|1024~6");
+    EXPECT_EQ(joined({yellow.Text1.begin(), yellow.Text1.end()}), "Budapest|Kovács Éva|Fő utca 1.|1024~6");
+    EXPECT_EQ(joined({yellow.txBefizAzonosito, yellow.txtJogcim2, yellow.txtKozl3sor[0], yellow.txtKozl3sor[1]}),
+              "AZ-77|AZ-77|harmadik sor|harmadik sor");
+    EXPECT_EQ(joined({yellow.txtFizHatIdo, yellow.Kozlemeny2, yellow.txOsszeg, yellow.txtSzoveg21}),
+              "Fiz.Hat:~9|Fiz.Hat:~9|1500|Egyezer-ötszáz");
+    EXPECT_EQ(joined({pink.RtxNev, pink.RtxCim, pink.RlbNev, pink.RtxOsszeg, pink.RtxtSzoveg12}),
+              "Kovács Éva~36|1024   Budapest, Fő utca 1.~62||1500|Egyezer-ötszáz");
+    EXPECT_EQ(joined({pink.txtNevHatul, pink.txtHelysHatul, pink.txtCimHatul, pink.txtIrszHatul}),
+              "Kovács Éva~36|Budapest|Fő utca 1.~45|1024~6");
+    EXPECT_EQ(joined({posting.txNev3, posting.txCim3_1, posting.txCim3_2, posting.txUtanvet}),
+              "Kovács Éva|1024   Budapest|Fő utca 1.|1500");
+    EXPECT_EQ(joined({receipt.txNev2, receipt.txCim2_1, receipt.txCim2_2, receipt.txUgyfelAzonosito,
+                      receipt.txKudemenyAzonosito, receipt.txUgyfelSajatJelzese}),
+              "Kovács Éva|1024   Budapest|Fő utca 1.|AZ-77|RL123|SJ-1");
+    EXPECT_EQ(joined({envelope.txtBoritekCimzettNev, envelope.txtBoritekCimzettNev2, envelope.txtBoritekCimzettCim1,
+                      envelope.txtBoritekCimzettCim2, envelope.txtBoritekCimzettIrSzam}),
+              "Kovács Éva|II. emelet|Budapest|Fő utca 1.|1024~6");
+    EXPECT_EQ(joined({document.txtIratCimzettNev, document.txtIratCimzettHelyseg, document.txtIratCimzettIrszam,
+                      document.txtIratCimzettUtca, document.txtIratFajtaja, document.txtIratSzama,
+                      document.txtIratMelleklet}),
+              "Kovács Éva~36|Budapest~40|1024~6|Fő utca 1.~45|végzés|12/2024|1 db");
+    EXPECT_EQ(joined({cash.txUNev, cash.txUCim, cash.lbUNev, cash.txUosszeg, cash.lbosszegBetuvel1}),
+              "Kovács Éva~36|1024   Budapest, Fő utca 1.||1500|*Egyezer-ötszáz*");
+    EXPECT_EQ(joined({cash.lbUNevHatul, cash.lbUHelysegHatul, cash.lbUCimHatul, cash.lbUIrszamHatul}),
+              "Kovács Éva~36|1024   Budapest|Fő utca 1.|1024~6");
+    EXPECT_EQ(joined({label.lbNev1, label.lbHelyseg, label.lbCim, label.lbIrsz}),
+              "Kovács Éva~36|Budapest~40|Fő utca 1.~45|1024~6");
+    EXPECT_EQ(joined(yellow.amounts) + ' ' + joined(pink.amounts), "1500|2500 1500|2500");
 }
 
 TEST_F(ClientPour, ForeignClientHasNoPostcodeAndKeepsTypedIdentifiers) {
@@ -148,33 +97,17 @@ TEST_F(ClientPour, ForeignClientHasNoPostcodeAndKeepsTypedIdentifiers) {
     settings.pink.txRcsekkCim.set(u"Fő tér 1.");
     pour(domestic());
     pour(foreign());
-    const QString line1 = QStringLiteral("Hauptstrasse 5, D-10115 Berlin"), country = QStringLiteral("Németország");
-    const QString storedName = padded(u"Hans Müller", 36), blank6(6, u' ');
-    expectShown({
-        {"txIrszam", tabs.yellowCheck.txIrszam, blank6},
-        {"RlbNev", tabs.pinkCheck.RlbNev, storedName},
-        {"txtHelys", tabs.pinkCheck.txtHelys, QStringLiteral("D-10115 Berlin")},
-        {"RlbIrsz", tabs.pinkCheck.RlbIrsz, blank6},
-        {"RtxNev", tabs.pinkCheck.RtxNev, QString()},
-        {"txCim3_1", tabs.postingReceipt.txCim3_1, line1},
-        {"txCim3_2", tabs.postingReceipt.txCim3_2, country},
-        {"txCim2_1", tabs.returnReceipt.txCim2_1, line1},
-        {"txKudemenyAzonosito", tabs.returnReceipt.txKudemenyAzonosito, QStringLiteral("RL123")},
-        {"txUgyfelSajatJelzese", tabs.returnReceipt.txUgyfelSajatJelzese, QStringLiteral("SJ-1")},
-        {"txtBoritekCimzettIrSzam", tabs.envelope.txtBoritekCimzettIrSzam, QString()},
-        {"txtIratCimzettNev", tabs.documentReceipt.txtIratCimzettNev, storedName},
-        {"txtIratCimzettHelyseg", tabs.documentReceipt.txtIratCimzettHelyseg, line1},
-        {"txtIratCimzettIrszam", tabs.documentReceipt.txtIratCimzettIrszam, QString()},
-        {"txtIratCimzettUtca", tabs.documentReceipt.txtIratCimzettUtca, country},
-        {"txtIratFajtaja", tabs.documentReceipt.txtIratFajtaja, QString()},
-        {"txUNev", tabs.cashOnDelivery.txUNev, QStringLiteral("Állandó Kft.")},
-        {"txUCim", tabs.cashOnDelivery.txUCim, QStringLiteral("9021, Győr, Fő tér 1.")},
-        {"lbUNev", tabs.cashOnDelivery.lbUNev, storedName},
-        {"lbUHelyseg", tabs.cashOnDelivery.lbUHelyseg, padded(u"D-10115 Berlin", 40)},
-        {"lbUHelysegHatul", tabs.cashOnDelivery.lbUHelysegHatul, line1},
-        {"lbUIrszamHatul", tabs.cashOnDelivery.lbUIrszamHatul, QString()},
-        {"lbIrsz", tabs.label.lbIrsz, QString()},
-    });
+    EXPECT_EQ(joined({yellow.txIrszam, envelope.txtBoritekCimzettIrSzam, label.lbIrsz}), "~6||");
+    EXPECT_EQ(joined({pink.RlbNev, pink.txtHelys, pink.RlbIrsz, pink.RtxNev}), "Hans Müller~36|D-10115 Berlin|~6|");
+    EXPECT_EQ(joined({posting.txCim3_1, posting.txCim3_2}), "Hauptstrasse 5, D-10115 Berlin|Németország");
+    EXPECT_EQ(joined({receipt.txCim2_1, receipt.txKudemenyAzonosito, receipt.txUgyfelSajatJelzese}),
+              "Hauptstrasse 5, D-10115 Berlin|RL123|SJ-1");
+    EXPECT_EQ(joined({document.txtIratCimzettNev, document.txtIratCimzettHelyseg, document.txtIratCimzettIrszam,
+                      document.txtIratCimzettUtca, document.txtIratFajtaja}),
+              "Hans Müller~36|Hauptstrasse 5, D-10115 Berlin||Németország|");
+    EXPECT_EQ(joined({cash.txUNev, cash.txUCim, cash.lbUNev, cash.lbUHelyseg}),
+              "Állandó Kft.|9021, Győr, Fő tér 1.|Hans Müller~36|D-10115 Berlin~40");
+    EXPECT_EQ(joined({cash.lbUHelysegHatul, cash.lbUIrszamHatul}), "Hauptstrasse 5, D-10115 Berlin|");
 }
 
 TEST_F(ClientPour, UnusableFirstAmountEmptiesEverythingButTheList) {
@@ -184,26 +117,21 @@ TEST_F(ClientPour, UnusableFirstAmountEmptiesEverythingButTheList) {
     client.client.Osszegek[4] = 9999999;
     client.client.Osszegek[5] = -3;
     pour(client);
-    EXPECT_EQ(tabs.yellowCheck.amounts, QStringList{QStringLiteral("2500")});
-    const auto& yellow = tabs.yellowCheck;
-    const auto& pink = tabs.pinkCheck;
+    EXPECT_EQ(joined(yellow.amounts), "2500");
     EXPECT_EQ(yellow.txOsszeg + yellow.lbOsszeg + yellow.txtSzoveg21 + yellow.txtSzoveg11 + yellow.txtSzoveg22 +
                   yellow.txtSzoveg12 + pink.RtxOsszeg + pink.RlbOsszeg + pink.lbOsszeg2 + pink.RtxtSzoveg21 +
-                  pink.RtxtSzoveg11 + pink.RtxtSzoveg12 + pink.RtxtSzoveg22 + tabs.postingReceipt.txUtanvet +
-                  tabs.cashOnDelivery.txUosszeg,
+                  pink.RtxtSzoveg11 + pink.RtxtSzoveg12 + pink.RtxtSzoveg22 + posting.txUtanvet + cash.txUosszeg,
               QString());
-    EXPECT_EQ(tabs.cashOnDelivery.lbosszegBetuvel1, QStringLiteral("**"));
+    EXPECT_EQ(cash.lbosszegBetuvel1, QStringLiteral("**"));
 }
 
 TEST_F(ClientPour, WordsTypedForOneClientDontStayForTheNextWithTheSameAmount) {
     pour(domestic());
-    tabs.yellowCheck.txtSzoveg21 = QStringLiteral("kézzel");
-    tabs.pinkCheck.RtxtSzoveg21 = QStringLiteral("kézzel");
-    tabs.cashOnDelivery.lbosszegBetuvel1 = QStringLiteral("kézzel");
+    tabs.yellowCheck.txtSzoveg21 = tabs.pinkCheck.RtxtSzoveg21 = tabs.cashOnDelivery.lbosszegBetuvel1 =
+        QStringLiteral("kézzel");
     pour({clientNamed(QStringLiteral("Másik"), 1500), blankTwin()});
-    EXPECT_EQ(tabs.yellowCheck.txtSzoveg21, QStringLiteral("Egyezer-ötszáz"));
-    EXPECT_EQ(tabs.pinkCheck.RtxtSzoveg21, QStringLiteral("Egyezer-ötszáz"));
-    EXPECT_EQ(tabs.cashOnDelivery.lbosszegBetuvel1, QStringLiteral("*Egyezer-ötszáz*"));
+    EXPECT_EQ(joined({yellow.txtSzoveg21, pink.RtxtSzoveg21, cash.lbosszegBetuvel1}),
+              "Egyezer-ötszáz|Egyezer-ötszáz|*Egyezer-ötszáz*");
 }
 
 } // namespace

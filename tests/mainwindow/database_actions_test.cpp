@@ -6,8 +6,7 @@ class DatabaseActions : public WindowTest {
 protected:
     // Three clients, the middle one clicked.
     void SetUp() override {
-        openWith({clientNamed(QStringLiteral("Kiss Anna")), clientNamed(QStringLiteral("Szűcs Ernő")),
-                  clientNamed(QStringLiteral("Nagy Béla"))});
+        openNamed({u"Kiss Anna", u"Szűcs Ernő", u"Nagy Béla"});
         clickRow(1);
     }
     QString csv(const QByteArray& lines) const {
@@ -21,11 +20,10 @@ protected:
     }
     // What was told since the last call, as "title|text#title|text".
     std::string told() {
-        QStringList texts;
-        for (const Message& message : prompts.told)
-            texts << message.title + u'|' + message.text;
-        prompts.told.clear();
-        return texts.join(u'#').toStdString();
+        std::string texts;
+        for (const Message& message : std::exchange(prompts.told, {}))
+            texts += (texts.empty() ? "" : "#") + joined(message);
+        return texts;
     }
     // No held number names a client that may be another one now.
     void expectNobodyHeld() const {
@@ -44,8 +42,7 @@ TEST_F(DatabaseActions, DeleteNamesThePersonWhoGoes) {
         type("txNev", QString::fromUtf8(shownName));
         prompts.answers = {Answer::no};
         press("cmdDel");
-        EXPECT_EQ(prompts.asked.back().title, QStringLiteral("Feladó törlése"));
-        EXPECT_EQ(prompts.asked.back().text, QStringLiteral("Biztos mehet \nSZŰCS ERNŐ\n\ntörlése?"));
+        EXPECT_EQ(joined(prompts.asked.back()), "Feladó törlése|Biztos mehet \nSZŰCS ERNŐ\n\ntörlése?");
     }
     EXPECT_EQ(rows(), "Kiss Anna|[Szűcs Ernő]|Nagy Béla");
     EXPECT_EQ(window->rekordszam(), 2);
@@ -70,11 +67,9 @@ TEST_F(DatabaseActions, WipeEmptiesFilesAndList) {
     EXPECT_EQ(clientCount(files), 3);
     EXPECT_EQ(window->rekordszam(), 2);
     choose("mnuAdatbazisTorles");
-    EXPECT_EQ(prompts.asked[1].title, QStringLiteral("Adatbázis törlése"));
-    EXPECT_EQ(prompts.asked[1].text,
-              QStringLiteral("Biztos benne hogy TÖRLI \na teljes adatbázist?\n\nMehet a TÖRLÉS?"));
-    EXPECT_TRUE(files.bytes(QStringLiteral("nevek1.dat")).isEmpty());
-    EXPECT_TRUE(files.bytes(QStringLiteral("kozl3sor.dat")).isEmpty());
+    EXPECT_EQ(joined(prompts.asked[1]),
+              "Adatbázis törlése|Biztos benne hogy TÖRLI \na teljes adatbázist?\n\nMehet a TÖRLÉS?");
+    EXPECT_EQ(files.bytes(QStringLiteral("nevek1.dat")) + files.bytes(QStringLiteral("kozl3sor.dat")), QByteArray());
     EXPECT_EQ(rows(), "");
     expectNobodyHeld();
 }

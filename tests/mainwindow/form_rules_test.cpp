@@ -1,3 +1,4 @@
+#include "joined_texts.h"
 #include "mainwindow/catalogue_lists.h"
 #include "mainwindow/envelope_label_rules.h"
 #include "mainwindow/receipt_rules.h"
@@ -18,23 +19,18 @@ SetTerti returnAddress() {
     return set;
 }
 
-QString wide(const char16_t* text, int width = 40) { return QString::fromUtf16(text).leftJustified(width); }
-
 TEST(ReceiptRules, ReturnAddressFollowsDomesticOrForeign) {
     ReturnReceiptTab tab;
     tab.foreign = true;
     tab.chkLevel = tab.chkKCsomag = tab.chkTUv = true;
     opBelfold_Click(tab, returnAddress());
-    EXPECT_EQ(tab.lbSajatNev2, wide(u"Hivatal"));
-    EXPECT_EQ(tab.lbSajatCim2_1, wide(u"Eger"));
-    EXPECT_EQ(tab.lbSajatCim2_2, wide(u"Kossuth u. 3."));
-    EXPECT_EQ(tab.lbSajatIrsz, wide(u"3300", 10));
+    EXPECT_EQ(joined({tab.lbSajatNev2, tab.lbSajatCim2_1, tab.lbSajatCim2_2, tab.lbSajatIrsz}),
+              "Hivatal~40|Eger~40|Kossuth u. 3.~40|3300~10");
     EXPECT_TRUE(tab.chkLevel && tab.chkKCsomag);
 
     tab.foreign = false;
     opBelfold_Click(tab, returnAddress());
-    EXPECT_EQ(tab.lbSajatCim2_1, QStringLiteral("3300 ") + wide(u"Eger"));
-    EXPECT_EQ(tab.lbSajatIrsz, QString());
+    EXPECT_EQ(joined({tab.lbSajatCim2_1, tab.lbSajatIrsz}), "3300 Eger~45|");
     EXPECT_FALSE(tab.chkLevel || tab.chkKCsomag); // hidden ticks would print
     EXPECT_TRUE(tab.chkTUv);
 }
@@ -43,9 +39,7 @@ TEST(ReceiptRules, DocumentSenderIsTheReturnAddressWhileTicked) {
     DocumentReceiptTab tab;
     tab.txtIratFelado = {QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")};
     reload(tab, returnAddress());
-    EXPECT_EQ(tab.lbIratFeladoCim1, QStringLiteral("3300 ") + wide(u"Eger"));
-    EXPECT_EQ(tab.txtIratFelado[1], QStringLiteral("b"));
-
+    EXPECT_EQ(joined({tab.lbIratFeladoCim1, tab.txtIratFelado[1]}), "3300 Eger~45|b");
     tab.chkVisszaCimPrint[2] = true;
     chkVisszaCimPrint_Click(tab);
     const std::array<QString, 3> address{tab.lbIratFeladoNev, tab.lbIratFeladoCim1, tab.lbIratFeladoCim2};
@@ -64,47 +58,38 @@ TEST(LabelRules, FirstVisitStoresTheFallbacks) {
     auto set = zeroRecord<CimkeSetup>();
     set.lbKinyomottCimkeNum = 7;
     showSheet(tab, set);
-    EXPECT_EQ((QStringList{tab.txtLeft, tab.txtTop, tab.txtOszlop, tab.txtSor, tab.txtSzeles, tab.txtMagas,
-                           tab.lbKinyomottCimkeNum}),
-              (QStringList{QStringLiteral("5"), QStringLiteral("5"), QStringLiteral("2"), QStringLiteral("6"),
-                           QStringLiteral("0"), QStringLiteral("0"), QStringLiteral("7")}));
+    EXPECT_EQ(joined({tab.txtLeft, tab.txtTop, tab.txtOszlop, tab.txtSor, tab.txtSzeles, tab.txtMagas,
+                      tab.lbKinyomottCimkeNum}),
+              "5|5|2|6|0|0|7");
     EXPECT_FALSE(cmdCimkeMeretRogzites_Click(tab, set));
-    EXPECT_EQ(set.txtLeft, Cur(5));
-    EXPECT_EQ(set.txtTop, Cur(5));
-    EXPECT_EQ(set.txtOszlop, 2);
-    EXPECT_EQ(set.txtSor, 6);
-    EXPECT_EQ(set.txtSzeles, Cur(105));
-    EXPECT_EQ(set.txtMagas, Cur::fromText(u"49.5"));
-    EXPECT_EQ(set.lbKinyomottCimkeNum, 7);
+    EXPECT_EQ(joined({set.txtLeft.text(), set.txtTop.text(), set.txtSzeles.text(), set.txtMagas.text()}),
+              "5|5|105|49.5");
+    EXPECT_EQ(set.txtOszlop * 100 + set.txtSor * 10 + set.lbKinyomottCimkeNum, 267);
     EXPECT_EQ(labelGrid(tab).columns * labelGrid(tab).rows, 12);
 }
 
-struct Sheet {
-    const char16_t *columns, *rows, *left, *height;
-    const char16_t* message; // null: stored
-    const char* storedHeight;
-};
-
 TEST(LabelRules, FixingTheSheetTakesTheGridOrRefusesIt) {
-    const Sheet sheets[] = {
-        {u"4", u"10", u"5", u"1", nullptr, "29.7"},
-        {u"3", u"7", u"5", u"1", nullptr, "42.4286"},
-        {u"3", u"2", u"5,5", u"140.5", nullptr, "140.5"}, // with few rows the typed height stands
-        {u"5", u"6", u"5", u"1", u"Az oszlopok száma nem lehet több HÁROMNÁL!", ""},
-        {u"2", u"11", u"5", u"1", u"A sorok száma nem lehet több NYOLCNÁL!", ""},
-        {u"2", u"2", u"5", u"sok", u"A cimkék helye és mérete csak szám lehet (mm)!", ""},
-        {u"2", u"6", u"", u"1", u"A cimkék helye és mérete csak szám lehet (mm)!", ""},
+    const struct {
+        const char *columns, *rows, *left, *height;
+        const char *message, *storedHeight; // one of them
+    } sheets[] = {
+        {"4", "10", "5", "1", nullptr, "29.7"},
+        {"3", "7", "5", "1", nullptr, "42.4286"},
+        {"3", "2", "5,5", "140.5", nullptr, "140.5"}, // with few rows the typed height stands
+        {"5", "6", "5", "1", "Az oszlopok száma nem lehet több HÁROMNÁL!", ""},
+        {"2", "11", "5", "1", "A sorok száma nem lehet több NYOLCNÁL!", ""},
+        {"2", "2", "5", "sok", "A cimkék helye és mérete csak szám lehet (mm)!", ""},
+        {"2", "6", "", "1", "A cimkék helye és mérete csak szám lehet (mm)!", ""},
     };
-    for (const Sheet& sheet : sheets) {
-        SCOPED_TRACE(QString::fromUtf16(sheet.columns).toStdString() + "x" +
-                     QString::fromUtf16(sheet.rows).toStdString());
+    for (const auto& sheet : sheets) {
+        SCOPED_TRACE(std::string(sheet.columns) + 'x' + sheet.rows);
         LabelTab tab;
         auto set = zeroRecord<CimkeSetup>();
         showSheet(tab, set);
-        tab.txtOszlop = QString::fromUtf16(sheet.columns);
-        tab.txtSor = QString::fromUtf16(sheet.rows);
-        tab.txtLeft = QString::fromUtf16(sheet.left);
-        tab.txtMagas = QString::fromUtf16(sheet.height);
+        tab.txtOszlop = QLatin1String(sheet.columns);
+        tab.txtSor = QLatin1String(sheet.rows);
+        tab.txtLeft = QLatin1String(sheet.left);
+        tab.txtMagas = QLatin1String(sheet.height);
         tab.chkCimke1[3] = true;
         tab.cimkeRekord[3] = 9;
         const auto message = cmdCimkeMeretRogzites_Click(tab, set);
@@ -113,8 +98,7 @@ TEST(LabelRules, FixingTheSheetTakesTheGridOrRefusesIt) {
         EXPECT_EQ(tab.captions[3], QStringLiteral("4"));
         ASSERT_EQ(message.has_value(), sheet.message != nullptr);
         if (message) {
-            EXPECT_EQ(message->text, QString::fromUtf16(sheet.message));
-            EXPECT_EQ(message->title, QStringLiteral("Figyelem!"));
+            EXPECT_EQ(joined(*message), std::string("Figyelem!|") + sheet.message);
             EXPECT_EQ(set.txtOszlop, 0);
         } else {
             EXPECT_EQ(set.txtMagas.text(), QLatin1String(sheet.storedHeight));
@@ -128,15 +112,11 @@ TEST(LabelRules, OpeningTheTabShowsTheBoxesWithoutStoring) {
     tab.txtOszlop = QStringLiteral("4");
     tab.txtSor = QStringLiteral("9");
     tab.txtSzeles = QStringLiteral("50");
-    tab.txtMagas = QStringLiteral("30");
     tab.cimkeRekord[1] = 5;
     tab.captions[1] = QStringLiteral("Kiss Anna");
     layOutSheet(tab);
-    EXPECT_EQ(labelGrid(tab).columns, 4);
-    EXPECT_EQ(labelGrid(tab).rows, 9);
-    EXPECT_EQ(tab.txtSzeles + u'x' + tab.txtMagas, QStringLiteral("50x30"));
-    EXPECT_EQ(tab.captions[1], QStringLiteral("Kiss Anna")); // who will print there
-    EXPECT_EQ(tab.captions[2], QStringLiteral("3"));
+    EXPECT_EQ(labelGrid(tab).columns * 10 + labelGrid(tab).rows, 49);
+    EXPECT_EQ(joined({tab.txtSzeles, tab.captions[1], tab.captions[2]}), "50|Kiss Anna|3"); // who will print there
 }
 
 TEST(LabelRules, PlacesFollowTheirClientsThroughADeletion) {
@@ -148,11 +128,8 @@ TEST(LabelRules, PlacesFollowTheirClientsThroughADeletion) {
         tab.captions[place] = QStringLiteral("ügyfél");
     }
     dropClient(tab, 5);
-    EXPECT_EQ(tab.cimkeRekord[0], 4);
-    EXPECT_EQ(tab.cimkeRekord[1], 0);
-    EXPECT_EQ(tab.cimkeRekord[2], 5);
-    EXPECT_EQ(tab.captions[1], QStringLiteral("2"));
-    EXPECT_EQ(tab.captions[2], QStringLiteral("ügyfél"));
+    EXPECT_EQ(tab.cimkeRekord, (std::array<int, 40>{4, 0, 5}));
+    EXPECT_EQ(joined({tab.captions[1], tab.captions[2]}), "2|ügyfél");
     EXPECT_TRUE(tab.chkCimke1[0] && !tab.chkCimke1[1] && tab.chkCimke1[2]);
     clearCells(tab);
     EXPECT_EQ(tab.cimkeRekord, (std::array<int, 40>{}));
@@ -190,10 +167,9 @@ TEST(CatalogueLists, OfferTheEntriesAndTheDeadline) {
     storeEntry<SecondTitleEntry>(folder, 1, u"Fiz. hat.:");
     storeEntry<SecondTitleEntry>(folder, 2, u"Fiz. hat.: azonnal");
     storeEntry<NoticeEntry>(folder, 1, u"Köszönjük");
-    EXPECT_EQ(titleList(folder), QStringList{QStringLiteral("Tagdíj")});
-    EXPECT_EQ(secondTitleList(folder, today, hungarian),
-              (QStringList{QStringLiteral("Fiz. hat.:2024. 03. 06."), QStringLiteral("Fiz. hat.: azonnal")}));
-    EXPECT_EQ(noticeList(folder), (QStringList{QString(), wide(u"Köszönjük", 25)}));
+    EXPECT_EQ(joined(titleList(folder)), "Tagdíj");
+    EXPECT_EQ(joined(secondTitleList(folder, today, hungarian)), "Fiz. hat.:2024. 03. 06.|Fiz. hat.: azonnal");
+    EXPECT_EQ(joined(noticeList(folder)), "|Köszönjük~25");
 }
 
 } // namespace

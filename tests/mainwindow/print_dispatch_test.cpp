@@ -1,3 +1,4 @@
+#include "joined_texts.h"
 #include "mainwindow/print_dispatch.h"
 #include "printing/check_fixture.h"
 
@@ -19,11 +20,8 @@ protected:
         const PrintJob& job = lastJob().job;
         const PageSetup& setup = job.pages.front().setup;
         const bool envelope = setup.paperSize == 27 && setup.orientation == 2;
-        return job.title.toStdString() +
-               (setup.sizeMm ? " own "
-                : envelope   ? " DL "
-                             : " A4 ") +
-               std::to_string(job.pages.size());
+        const char* paper = setup.sizeMm ? " own " : envelope ? " DL " : " A4 ";
+        return job.title.toStdString() + paper + std::to_string(job.pages.size());
     }
 
     FormTabs tabs;
@@ -73,17 +71,17 @@ TEST_F(PrintDispatch, NothingToPrintIsSilent) {
 }
 
 TEST_F(PrintDispatch, UnexpectedBatchesAreAskedForFirst) {
-    const QString all = QStringLiteral("Az automatikus nyomtatás be van kapcsolva,\nezért a lista MIND a 3 ügyfelének "
-                                       "csekkje ki lesz nyomtatva!\n\nMehet a nyomtatás?");
-    const QString front = QStringLiteral(
-        "Fekvő csoportos nyomtatásnál csak a csekk első oldala nyomtatható!\n\nMehet az első oldal nyomtatása?");
+    const std::string all = "Az automatikus nyomtatás be van kapcsolva,\nezért a lista MIND a 3 ügyfelének csekkje ki "
+                            "lesz nyomtatva!\n\nMehet a nyomtatás?";
+    const std::string front = "Fekvő csoportos nyomtatásnál csak a csekk első oldala nyomtatható!\n\nMehet az első "
+                              "oldal nyomtatása?";
     const struct {
         int tab;
         Feed feed;
         std::int16_t autoPrint;
         Side side;
         std::vector<int> selected;
-        QString question; // empty for none
+        std::string question; // empty for none
         std::size_t pages;
     } batches[] = {
         {0, Feed::upright, 1, Side::front, {1, 3}, all, 3},   {0, Feed::upright, 1, Side::front, {}, all, 3},
@@ -97,11 +95,10 @@ TEST_F(PrintDispatch, UnexpectedBatchesAreAskedForFirst) {
         storeSettings();
         tabs.pinkCheck.side = batch.side;
         rows.selected = batch.selected;
-        if (!batch.question.isEmpty()) {
+        if (!batch.question.empty()) {
             prompts.answers = {Answer::no, Answer::yes};
             EXPECT_FALSE(print(batch.tab, batch.feed, Press::batch));
-            EXPECT_EQ(prompts.asked.back().title, QStringLiteral(" FIGYELEM "));
-            EXPECT_EQ(prompts.asked.back().text, batch.question);
+            EXPECT_EQ(::joined(prompts.asked.back()), " FIGYELEM |" + batch.question);
             EXPECT_EQ(prompts.presets.back(), Answer::no);
         }
         if (batch.tab == 6 || batch.feed == Feed::upright) prompts.printerChoices = {PrinterChoice{0, 1}};

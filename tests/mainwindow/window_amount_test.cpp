@@ -28,7 +28,7 @@ protected:
         client.Osszegek[11] = 700;
         auto unusable = clientNamed(QStringLiteral("Nagy Béla"), 0);
         unusable.Osszegek[1] = 2500;
-        openWith({client, clientNamed(QStringLiteral("Ács Dóra"), 1500), unusable});
+        openWith({client, unusable});
         goTo(amount.tab);
         clickRow(0);
     }
@@ -75,7 +75,7 @@ TEST_P(WindowAmount, TheListNeverTouchesWhatWasTyped) {
     QCoreApplication::sendEvent(&box(), &wheel);
     expectAmount("15", "Tizenöt");
     EXPECT_EQ(offered(), "1500 700 ");
-    clickRow(2); // another list, of which nothing becomes the text
+    clickRow(1); // another list, of which nothing becomes the text
     expectAmount("", "");
     EXPECT_EQ(offered(), "2500 ");
 }
@@ -86,12 +86,6 @@ TEST_P(WindowAmount, AChosenEntryUpdatesEveryCopy) {
         QTest::keyClick(&box(), Qt::Key_Down);
         expectAmount(digits, words);
     }
-}
-
-TEST_P(WindowAmount, NextClientWithTheSameAmountGetsFreshWords) {
-    type(amount.upper, QStringLiteral("átírva"));
-    clickRow(1);
-    expectAmount("1500", "Egyezer-ötszáz");
 }
 
 TEST_P(WindowAmount, NextKeystrokeTakesTheStoredFont) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "joined_texts.h"
 #include "mainwindow/frmTarlimo.h"
 #include "support/recording_service.h"
 #include "support/scripted_prompts.h"
@@ -55,6 +56,14 @@ protected:
             files.store(client, clientCount(files) + 1);
         open();
     }
+    // Their amounts are 100, 200 and so on.
+    void openNamed(std::initializer_list<const char16_t*> names) {
+        for (int number = 0; const char16_t* name : names) {
+            ++number;
+            files.store(clientNamed(QString::fromUtf16(name), number * 100), number);
+        }
+        open();
+    }
     Set set() const { return readRecord<Set>(files); }
 
     template<class Widget = QWidget>
@@ -71,9 +80,14 @@ protected:
     bool shown(const char* name) const { return find(name).isVisible(); }
     bool enabled(const char* name) const { return find(name).isEnabled(); }
     bool ticked(const char* name) const { return find<QAbstractButton>(name).isChecked(); }
-    void expectShown(const std::vector<const char*>& names, bool expected) const {
-        for (const char* name : names)
-            EXPECT_EQ(shown(name), expected) << name;
+    // Several controls, their names parted by blanks.
+    void expectShown(const char* names, bool expected) const {
+        for (const QByteArray& name : QByteArray(names).split(' '))
+            EXPECT_EQ(shown(name.constData()), expected) << name.constData();
+    }
+    void expectTicked(const char* names, bool expected) const {
+        for (const QByteArray& name : QByteArray(names).split(' '))
+            EXPECT_EQ(ticked(name.constData()), expected) << name.constData();
     }
 
     // Types over what stands in a text box or combo. Not by keyClicks, which knows ASCII alone.
@@ -110,11 +124,11 @@ protected:
     void choose(const char* menuEntry) const { find<QAction>(menuEntry).trigger(); }
 
     QTreeView& list() const { return find<QTreeView>("ListView1"); }
-    void clickRow(int row, Qt::KeyboardModifiers modifiers = {}) const {
+    void clickRow(int row, Qt::KeyboardModifiers modifiers = {}, Qt::MouseButton button = Qt::LeftButton) const {
         const QModelIndex index = list().model()->index(row, 0);
         ASSERT_TRUE(index.isValid()) << row;
         list().scrollTo(index);
-        QTest::mouseClick(list().viewport(), Qt::LeftButton, modifiers, list().visualRect(index).center());
+        QTest::mouseClick(list().viewport(), button, modifiers, list().visualRect(index).center());
     }
     // One column of the list, rows parted by '|', the selected ones in brackets.
     std::string rows(int column = 0) const {

@@ -14,10 +14,7 @@ Rec filledWith(char byte) {
     return record;
 }
 
-template<class Rec>
-std::string bytesOf(const Rec& record) {
-    return {reinterpret_cast<const char*>(&record), sizeof record};
-}
+std::string bytesOf(const auto& record) { return {reinterpret_cast<const char*>(&record), sizeof record}; }
 
 using WindowStart = WindowTest;
 
@@ -50,18 +47,14 @@ TEST_F(WindowStart, RememberedControlsComeBack) {
     updateRecord<boritek>(files, [](boritek& set) { set.chkFKFCim1 = set.chkFKCNev2 = true; });
     updateRecord<Kepment>(files, [](Kepment& set) { set.Left = 440; });
     const QByteArray before = files.bytes(QStringLiteral("Set.dat"));
-    openWith({clientNamed(QStringLiteral("Béla")), clientNamed(QStringLiteral("Anna"))});
+    openNamed({u"Béla", u"Anna"});
     EXPECT_EQ(files.bytes(QStringLiteral("Set.dat")), before); // restoring stores nothing
-    const struct {
-        const char *control, *text;
-    } texts[] = {{"Combo2", "Masodik"}, {"txtTertiPosta", "Győr 1."}, {"txtIratErtesites", "igen"}, {"lbXpoz", "10"}};
-    for (const auto& box : texts)
-        EXPECT_EQ(text(box.control), box.text);
-    for (const char* on : {"chkVisszaCimPrint_0", "chkVisszaCimPrint_2", "chkListaSorren", "chkKepPrint", "opAllando_1",
-                           "chkBefAzonMasolasa", "opPrinter_1", "OpB3", "OpOrientacioAllo", "chkFKFCim1", "chkFKCNev2"})
-        EXPECT_TRUE(ticked(on)) << on;
-    for (const char* off : {"chkVisszaCimPrint_1", "chkFKFNev"})
-        EXPECT_FALSE(ticked(off)) << off;
+    EXPECT_EQ(text("Combo2") + '|' + text("txtTertiPosta") + '|' + text("txtIratErtesites") + '|' + text("lbXpoz"),
+              "Masodik|Győr 1.|igen|10");
+    expectTicked("chkVisszaCimPrint_0 chkVisszaCimPrint_2 chkListaSorren chkKepPrint opAllando_1 chkBefAzonMasolasa "
+                 "opPrinter_1 OpB3 OpOrientacioAllo chkFKFCim1 chkFKCNev2",
+                 true);
+    expectTicked("chkVisszaCimPrint_1 chkFKFNev", false);
     EXPECT_FALSE(enabled("Combo2"));
     EXPECT_EQ(rows(), "Anna|Béla");
     EXPECT_TRUE(shown("Picture5"));
@@ -133,8 +126,7 @@ TEST_F(WindowStart, MenuAsksBeforeClosingAndTheBoxDoesNot) {
     choose("mnuKilep");
     EXPECT_FALSE(window->isVisible());
     EXPECT_TRUE(set().chkBefAzonMasolasa);
-    EXPECT_EQ(prompts.asked[0].title, QStringLiteral(" Kilépés "));
-    EXPECT_EQ(prompts.asked[0].text, QStringLiteral("Biztos hogy Befejezed?\n\n"));
+    EXPECT_EQ(joined(prompts.asked[0]), " Kilépés |Biztos hogy Befejezed?\n\n");
     open();
     press("chkBefAzonMasolasa");
     window->close();

@@ -8,7 +8,7 @@ namespace {
 using WindowTabs = WindowTest;
 
 TEST_F(WindowTabs, EachTabSetsButtonsFeedAndSample) {
-    openWith({clientNamed(QStringLiteral("Anna")), clientNamed(QStringLiteral("Béla"))});
+    openNamed({u"Anna", u"Béla"});
     const struct {
         const char *caption, *upright, *sideways;
         bool keepsBatch;
@@ -51,70 +51,42 @@ TEST_F(WindowTabs, EachTabSetsButtonsFeedAndSample) {
     });
 }
 
-template<class Rec, auto field>
-void storeName(const ProgramFolder& folder, const QString& name) {
-    updateRecord<Rec>(folder, [&](Rec& set) { (set.*field).set(name); });
-}
-
 TEST_F(WindowTabs, AClickOnTheTabShowsTheSenderAsStored) {
     open();
     const struct {
         int tab;
         const char* control;
-        void (*store)(const ProgramFolder&, const QString&);
-    } senders[] = {{1, "lbSajatNev2", storeName<SetTerti, &SetTerti::txtTertiVisszakuldNev>},
-                   {2, "lbSajatNev", storeName<SetFveveny, &SetFveveny::txtFeladovevenyFeladoNev>},
-                   {3, "txtBoritekFeladoNev", storeName<boritek, &boritek::txtBoritekFeladoNev>},
-                   {5, "lbIratFeladoNev", storeName<SetTerti, &SetTerti::txtTertiVisszakuldNev>},
-                   {6, "RlbNev", storeName<SetRcsekk, &SetRcsekk::txRcsekkNev>},
-                   {7, "lbUNev", storeName<SetRcsekk, &SetRcsekk::txRcsekkNev>}};
-    for (const auto& sender : senders) {
+    } senders[] = {{1, "lbSajatNev2"},     {2, "lbSajatNev"}, {3, "txtBoritekFeladoNev"},
+                   {5, "lbIratFeladoNev"}, {6, "RlbNev"},     {7, "lbUNev"}};
+    for (const auto& [tab, control] : senders) {
         goTo(0);
         for (const char* name : {"Kovács Kft.", "Szűcs Bt."}) { // coming from another tab, and the tab in view
-            sender.store(files, QString::fromUtf8(name));
-            goTo(sender.tab);
-            EXPECT_EQ(text(sender.control).rfind(name, 0), 0U) << sender.tab << text(sender.control);
+            const QString stored = QString::fromUtf8(name);
+            updateRecord<SetTerti>(files, [&](SetTerti& set) { set.txtTertiVisszakuldNev.set(stored); });
+            updateRecord<SetFveveny>(files, [&](SetFveveny& set) { set.txtFeladovevenyFeladoNev.set(stored); });
+            updateRecord<boritek>(files, [&](boritek& set) { set.txtBoritekFeladoNev.set(stored); });
+            updateRecord<SetRcsekk>(files, [&](SetRcsekk& set) { set.txRcsekkNev.set(stored); });
+            goTo(tab);
+            EXPECT_EQ(text(control).rfind(name, 0), 0U) << tab << text(control);
         }
     }
-}
-
-TEST_F(WindowTabs, FirstVisitOfTheLabelsStoresTheFallbacks) {
-    open();
-    goTo(4);
-    const auto sheet = readRecord<CimkeSetup>(files);
-    EXPECT_EQ(sheet.txtOszlop * 10 + sheet.txtSor, 26);
-    EXPECT_EQ(sheet.txtSzeles.text(), QStringLiteral("105"));
-    EXPECT_TRUE(prompts.told.empty());
-    expectShown({"chkCimke1_1", "chkCimke1_12"}, true);
-    expectShown({"chkCimke1_13", "chkCimke1_40"}, false);
 }
 
 TEST_F(WindowTabs, TwoFormsTurnTheirPage) {
     openWith({clientNamed(QStringLiteral("Anna"), 1500)});
     const struct {
         int tab;
-        const char *button, *page;
-        const char* captions[2]; // front, back
-        const char* pictures[2];
-        std::vector<const char*> front, back;
+        const char *button, *page, *frontCaption, *backCaption, *frontPicture, *backPicture;
+        const char *front, *back;
     } forms[] = {
-        {6,
-         "cmdOldalCsere",
-         "Picture7",
-         {"Csekk Hátoldala", "Csekk Első oldal"},
-         {"RozsaszinCsekk.jpg", "RCsekkHatul.jpg"},
-         {"RtxOsszeg", "RlbOsszeg", "lbOsszeg2", "RtxtSzoveg21", "RtxtSzoveg11", "RtxtSzoveg22", "RtxtSzoveg12",
-          "RtxNev", "RtxCim", "RlbNev", "RlbCim", "RlbHelys", "RlbIrsz", "txtNev", "txtCim", "txtHelys", "txtIrsz"},
-         {"txtNevHatul", "txtHelysHatul", "txtCimHatul", "txtIrszHatul", "RcsekkKozlemenyHatul_0",
-          "RcsekkKozlemenyHatul_3"}},
-        {7,
-         "cmdUtanvetOdalCsere",
-         "Picture6",
-         {"Hátoldala", "Első oldal"},
-         {"UtanveteliLap.jpg", "utanvetelihatulja.jpg"},
-         {"txUosszeg", "txUNev", "txUCim", "lbUosszeg", "lbosszegBetuvel1", "lbosszegBetuvel2", "lbUNev", "lbUHelyseg",
-          "lbUCim", "lbUIrszam", "lbUtXR", "chkUtanvetR", "chkUtanvetEL", "chkCimzettCsereUlap"},
-         {"lbUNevHatul", "lbUHelysegHatul", "lbUCimHatul", "lbUIrszamHatul"}}};
+        {6, "cmdOldalCsere", "Picture7", "Csekk Hátoldala", "Csekk Első oldal", "RozsaszinCsekk.jpg", "RCsekkHatul.jpg",
+         "RtxOsszeg RlbOsszeg lbOsszeg2 RtxtSzoveg21 RtxtSzoveg11 RtxtSzoveg22 RtxtSzoveg12 RtxNev RtxCim "
+         "RlbNev RlbCim RlbHelys RlbIrsz txtNev txtCim txtHelys txtIrsz",
+         "txtNevHatul txtHelysHatul txtCimHatul txtIrszHatul RcsekkKozlemenyHatul_0 RcsekkKozlemenyHatul_3"},
+        {7, "cmdUtanvetOdalCsere", "Picture6", "Hátoldala", "Első oldal", "UtanveteliLap.jpg", "utanvetelihatulja.jpg",
+         "txUosszeg txUNev txUCim lbUosszeg lbosszegBetuvel1 lbosszegBetuvel2 lbUNev lbUHelyseg lbUCim "
+         "lbUIrszam lbUtXR chkUtanvetR chkUtanvetEL chkCimzettCsereUlap",
+         "lbUNevHatul lbUHelysegHatul lbUCimHatul lbUIrszamHatul"}};
     for (const auto& form : forms) {
         goTo(form.tab);
         if (form.tab == 7) press("chkUtanvetR"); // its mark comes back with the front, the other one doesn't
@@ -122,81 +94,47 @@ TEST_F(WindowTabs, TwoFormsTurnTheirPage) {
             clickRow(0); // fills both sides and turns none
             expectShown(form.front, side == 0);
             expectShown(form.back, side == 1);
-            expectShown({"opAllando_0", "opAllando_1"}, form.tab == 6);
-            expectShown({"lbUtXEL"}, false);
-            EXPECT_EQ(text(form.button), form.captions[side]);
-            EXPECT_EQ(find<StationeryPage>(form.page).picture(), QLatin1String(form.pictures[side]));
+            expectShown("opAllando_0 opAllando_1", form.tab == 6);
+            expectShown("lbUtXEL", false);
+            EXPECT_EQ(text(form.button), side == 0 ? form.frontCaption : form.backCaption);
+            const char* picture = side == 0 ? form.frontPicture : form.backPicture;
+            EXPECT_EQ(find<StationeryPage>(form.page).picture(), QLatin1String(picture));
             press(form.button);
         }
         EXPECT_EQ(text("txtHelysHatul"), "Budapest");
     }
 }
 
-TEST_F(WindowTabs, SwapOfThePartiesWorksOnTheClickedClient) {
-    storeName<SetRcsekk, &SetRcsekk::txRcsekkNev>(files, QStringLiteral("Posta Kft."));
-    openWith({clientNamed(QStringLiteral("Anna"))});
-    goTo(7);
-    clickRow(0);
-    const auto expectParties = [&](const char* addressee, const char* payee) {
-        EXPECT_EQ(text("txUNev").rfind(addressee, 0), 0U) << text("txUNev");
-        EXPECT_EQ(text("lbUNev").rfind(payee, 0), 0U) << text("lbUNev");
-    };
-    expectParties("Anna", "Posta Kft.");
-    press("chkCimzettCsereUlap");
-    expectParties("Posta Kft.", "Anna");
-    goTo(7); // the reload must not put the fixed party on both sides
-    expectParties("Posta Kft.", "Anna");
-    press("chkCimzettCsereUlap");
-    expectParties("Anna", "Posta Kft.");
-}
-
-TEST_F(WindowTabs, ReturnReceiptChangesBetweenDomesticAndForeign) {
-    open();
-    goTo(1);
-    for (const bool foreign : {false, true, false}) {
-        press(foreign ? "opBelfold_1" : "opBelfold_0");
-        expectShown({"chkLevel", "chkKCsomag", "lbSajatIrsz"}, foreign);
-        expectShown({"txtTertiPosta", "txtTertiDatum", "txUgyfelAzonosito", "txUgyfelSajatJelzese"}, !foreign);
-        const auto& page = find<StationeryPage>("Picture3");
-        EXPECT_EQ(page.picture(), foreign ? QStringLiteral("KTerti.jpg") : QStringLiteral("Terti.jpg"));
-        if (foreign) press("chkLevel");
-        expectShown({"lbX_9"}, foreign); // unticked with its box, or it would print unseen
-    }
-}
-
 TEST_F(WindowTabs, TicksShowWhatBelongsToThem) {
     open();
-    const struct {
-        int tab;
-        const char* box;
-        std::vector<const char*> belonging;
-    } ticks[] = {{2, "chkSK", {"lbX_0"}},
-                 {2, "chkPRI", {"lbX_1"}},
-                 {2, "chkPL", {"lbX_2"}},
-                 {2, "chkLEGI", {"lbX_3"}},
-                 {2, "chk5", {"lbX_4"}},
-                 {2, "chk6", {"lbX_5"}},
-                 {2, "chkErtek", {"txErtek", "lbFt_0"}},
-                 {1, "chkTPri", {"lbX_6"}},
-                 {1, "chkTSk", {"lbX_7"}},
-                 {1, "chkTUv", {"lbX_8"}},
-                 {1, "chkLevel", {"lbX_9"}},
-                 {1, "chkKCsomag", {"lbX_10"}},
-                 {7, "chkUtanvetEL", {"lbUtXEL"}},
-                 {7, "chkUtanvetR", {"lbUtXR"}},
-                 {3, "chkFelado", {"txtBoritekFeladoNev", "txtBoritekFeladoIrSzam", "chkFKFNev", "chkFKFIrsz"}},
-                 {3, "chkCimzett", {"txtBoritekCimzettNev", "txtBoritekCimzettNev2", "chkFKCIrsz"}},
-                 {4, "chkEgyediCimke", {"keretEgyediCimke", "txEgyediCimke_4"}}};
-    for (const auto& tick : ticks) {
-        SCOPED_TRACE(tick.box);
-        goTo(tick.tab);
-        if (tick.tab == 1) press("opBelfold_1"); // two of the boxes are on the foreign form alone
-        const bool before = ticked(tick.box);
-        for (const bool now : {before, !before, before}) {
-            if (now != ticked(tick.box)) press(tick.box);
-            expectShown(tick.belonging, now);
-        }
+    goTo(1);
+    for (const bool foreign : {true, false, true}) { // stays foreign, for two of the boxes are on that form alone
+        press(foreign ? "opBelfold_1" : "opBelfold_0");
+        expectShown("chkLevel chkKCsomag lbSajatIrsz", foreign);
+        expectShown("txtTertiPosta txtTertiDatum txUgyfelAzonosito txUgyfelSajatJelzese", !foreign);
+        EXPECT_EQ(find<StationeryPage>("Picture3").picture(), QLatin1String(foreign ? "KTerti.jpg" : "Terti.jpg"));
     }
+    const auto expectTick = [&](int tab, const char* box, const char* belonging) {
+        SCOPED_TRACE(box);
+        goTo(tab);
+        const bool before = ticked(box);
+        for (const bool now : {before, !before, before}) {
+            if (now != ticked(box)) press(box);
+            expectShown(belonging, now);
+        }
+    };
+    const char* marked[] = {"chkSK",   "chkPRI", "chkPL",  "chkLEGI",  "chk5",      "chk6",
+                            "chkTPri", "chkTSk", "chkTUv", "chkLevel", "chkKCsomag"};
+    for (int mark = 0; const char* box : marked) {
+        expectTick(mark < 6 ? 2 : 1, box, ("lbX_" + std::to_string(mark)).c_str());
+        ++mark;
+    }
+    expectTick(7, "chkUtanvetEL", "lbUtXEL");
+    expectTick(7, "chkUtanvetR", "lbUtXR");
+    expectTick(2, "chkErtek", "txErtek lbFt_0");
+    expectTick(3, "chkFelado", "txtBoritekFeladoNev txtBoritekFeladoIrSzam chkFKFNev chkFKFIrsz");
+    expectTick(3, "chkCimzett", "txtBoritekCimzettNev txtBoritekCimzettNev2 chkFKCIrsz");
+    expectTick(4, "chkEgyediCimke", "keretEgyediCimke txEgyediCimke_4");
     goTo(2);
     press("chkErtek");
     EXPECT_EQ(window->focusWidget(), &find("txErtek"));
@@ -204,18 +142,6 @@ TEST_F(WindowTabs, TicksShowWhatBelongsToThem) {
     press("chkVisszaCimPrint_2");
     press("chkVisszaCimPrint_2");
     EXPECT_EQ(window->focusWidget(), &find("txtIratFelado_0"));
-}
-
-TEST_F(WindowTabs, StubMirrorsThePayer) {
-    open();
-    const struct {
-        const char *box, *copy;
-    } mirrors[] = {{"txNev", "Text1_1"},    {"txCim1", "Text1_0"},          {"txCim2", "Text1_2"},
-                   {"txIrszam", "Text1_3"}, {"txtSzoveg21", "txtSzoveg22"}, {"txtSzoveg11", "txtSzoveg12"}};
-    for (const auto& mirror : mirrors) {
-        type(mirror.box, QStringLiteral("Ősz Űr"));
-        EXPECT_EQ(text(mirror.copy), "Ősz Űr") << mirror.copy;
-    }
 }
 
 } // namespace

@@ -62,7 +62,7 @@ TEST_F(QtPrintServiceTest, aJobBecomesOneFileThatIsTold) {
     service.deliver(jobOf(3), 0);
     ASSERT_EQ(files().size(), 1);
     EXPECT_TRUE(service.lastPdf().endsWith(u"-Sárga csekk.pdf"_s));
-    EXPECT_EQ(pagesOf(folder.bytes(u"nyomtatas/"_s + files()[0])).size(), 3U); // copies are the reader's choice
+    EXPECT_EQ(pagesOf(folder.bytes(u"nyomtatas/"_s + files()[0])).size(), 15U) << "3 pages in 5 copies";
 
     service.deliver(jobOf(1), 0);
     EXPECT_EQ(files().size(), 2);

@@ -1,5 +1,7 @@
 #include "settings/setup/page_builder.h"
 
+#include "prompts/titles.h"
+
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -14,6 +16,7 @@ public:
     explicit PageScroll(QWidget* content) {
         setWidgetResizable(true);
         setFrameShape(NoFrame);
+        setFocusPolicy(Qt::NoFocus);
         setWidget(content);
         viewport()->setAutoFillBackground(false);
         content->setAutoFillBackground(false); // the page looks like the tab that it stands in
@@ -157,7 +160,7 @@ QPushButton* PageBuilder::makeButton(const ButtonRow& row) {
                                QString::fromUtf16(row.question.text)};
         if (row.question.title && prompts->ask(question) == Answer::no) return;
         if (row.effect()) return;
-        prompts->tell({Icon::critical, QStringLiteral("Hiba"),
+        prompts->tell({Icon::critical, titles::error,
                        QStringLiteral("A beállításokat nem sikerült elmenteni!\n"
                                       "Ellenőrizd, hogy a program mappája írható-e!")});
     });
