@@ -205,11 +205,11 @@ TEST(SetupDialog, PrintBoxesShowTheStoredFlagsUnlessNobodyEverChose) {
     };
     for (const auto& [gate, stored, expected] : rows) {
         const TestFolder folder;
-        updateRecord<Set>(folder, [&](Set& set) {
-            set.chkNyomtatandoKilepes = gate;
-            for (std::size_t i = 0; i < 8; ++i)
-                set.chkNyomtatando[i] = stored[i] == '1';
-        });
+        auto before = zeroRecord<Set>();
+        before.chkNyomtatandoKilepes = gate;
+        for (std::size_t i = 0; i < 8; ++i)
+            before.chkNyomtatando[i] = stored[i] == '1';
+        folder.store(before);
         OpenedSetup setup(folder);
         QString shown;
         for (int i = 0; i < 8; ++i)
