@@ -29,7 +29,7 @@ struct YellowCheckTab {
     std::array<QString, 2> txtKozl3sor; // third notice line, on the two parts
     QString txtFizHatIdo;
     // What the last click wrote into Kozlemeny2 as the deadline, empty if nothing: a batch puts each client's own
-    // deadline in its place, but prints a text that the clerk typed on all pages.
+    // deadline in its place (none if deadlines are off), but prints a text that the clerk typed on all pages.
     QString pouredDeadline;
     bool Check1 = false; // live search
 };

@@ -81,11 +81,4 @@ QByteArray encode(QStringView text) {
 
 char fold(char byte) { return capitals[static_cast<unsigned char>(byte)]; }
 
-bool canEncode(QStringView text) {
-    return std::all_of(text.begin(), text.end(), [](QChar unit) {
-        const char byte = byteOrNul(unit.unicode());
-        return byte != '\0' && toUnicode(byte) == unit.unicode();
-    });
-}
-
 } // namespace windows1250

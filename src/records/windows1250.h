@@ -22,7 +22,4 @@ char toByte(char16_t unit);
 // Upper-case form of a letter, any other byte as it is: what a comparison without regard to case works on.
 char fold(char byte);
 
-// True if every letter of `text` has a byte of its own, so that nothing is lost by storing it.
-bool canEncode(QStringView text);
-
 } // namespace windows1250
