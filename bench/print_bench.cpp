@@ -27,20 +27,20 @@ ListRows rowsToPrint() {
     return rows;
 }
 
-YellowCheckTab filledTab() {
-    YellowCheckTab tab;
+FormTabs filledTabs() {
+    FormTabs tabs;
+    YellowCheckTab& tab = tabs.yellowCheck;
     tab.Kozlemeny1 = QStringLiteral("Tagdíj, második félév");
     tab.txtJogcim1 = QStringLiteral("Tagdíj");
     tab.txtJogcim2 = QStringLiteral("2026. év");
-    return tab;
+    return tabs;
 }
 
 void printChecks(PrintService& service) {
     PrintDevice device(service);
     QuietPrompts prompts;
     const ProgramFolder& folder = sampleFolder(sampleSize);
-    const PrintOutcome outcome =
-        PrintCsAlloCsekk({device, prompts, folder}, filledTab(), rowsToPrint(), PrintDialog::skip);
+    const PrintOutcome outcome = PrintCsAlloCsekk({device, prompts, folder, false}, filledTabs(), rowsToPrint());
     if (outcome.pages != pageCount) qFatal("the checks did not print: %s", qPrintable(outcome.trouble));
 }
 

@@ -31,5 +31,8 @@ public:
     Answer ask(const Message& /*message*/, Answer /*preset*/) override { return Answer::yes; }
     QString openFile(const QString& /*title*/, const QString& /*filter*/) override { return {}; }
     QString saveFile(const QString& /*title*/, const QString& /*filter*/) override { return {}; }
-    std::optional<PrinterChoice> choosePrinter(const QStringList& /*printers*/, int /*current*/) override { return {}; }
+    std::optional<PrinterChoice> choosePrinter(const QStringList& /*printers*/, int /*current*/,
+                                               const QString& /*summary*/) override {
+        return {};
+    }
 };

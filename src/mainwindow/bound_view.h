@@ -1,7 +1,8 @@
 #pragma once
 
 #include "printing/print_device.h"
-#include "records/program_folder.h"
+#include "prompts/prompts.h"
+#include "records/client_database.h"
 
 #include <QWidget>
 
@@ -14,10 +15,18 @@ class QGroupBox;
 class QLabel;
 class QLineEdit;
 
+// The client last clicked, as read then; the number is 0 and the record zero while there is none.
+struct SelectedClient {
+    int rekordszam = 0;
+    Client record = {zeroRecord<ClientRec>(), zeroRecord<TwinRec>()};
+};
+
 // What the views and their rules reach of the program.
 struct FormContext {
     const ProgramFolder& folder;
     PrintDevice& device;
+    Prompts& prompts;
+    const SelectedClient& selected;
 };
 
 // A view whose widgets are each bound to one member of a tab's values. An edit is written into its member and told by

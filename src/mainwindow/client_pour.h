@@ -6,18 +6,6 @@
 #include "settings/check_layouts.h"
 #include "settings/general_settings.h"
 
-// The values of all eight tabs.
-struct FormTabs {
-    YellowCheckTab yellowCheck;
-    ReturnReceiptTab returnReceipt;
-    PostingReceiptTab postingReceipt;
-    EnvelopeTab envelope;
-    LabelTab label;
-    DocumentReceiptTab documentReceipt;
-    PinkCheckTab pinkCheck;
-    CashOnDeliveryTab cashOnDelivery;
-};
-
 // What a click reads besides the client.
 struct PourSettings {
     Set set;

@@ -56,7 +56,6 @@ frmTarlimo::frmTarlimo(const ProgramFolder& folder, const WindowServices& servic
     : folder_(folder)
     , services_(services)
     , device_(services.printing)
-    , shown_{zeroRecord<ClientRec>(), zeroRecord<TwinRec>()}
     , SSTab1_(new QTabWidget)
     , clients_(new ClientZone(folder))
     , panel_(new PrintPanel(folder))
@@ -83,7 +82,7 @@ frmTarlimo::frmTarlimo(const ProgramFolder& folder, const WindowServices& servic
 }
 
 void frmTarlimo::buildTabs() {
-    const FormContext context{folder_, device_};
+    const FormContext context{folder_, device_, services_.prompts, selected_};
     SSTab1_->setObjectName(QStringLiteral("SSTab1"));
     yellowCheck_ = new YellowCheckView(tabs_.yellowCheck, context);
     labels_ = new LabelView(tabs_.label, context);
@@ -249,16 +248,16 @@ void frmTarlimo::rowClicked(int row) {
                                 QStringLiteral("A 32767. rekord utáni ügyfelek innen nem választhatók ki!")});
         return;
     }
-    rekordszam_ = number;
+    selected_.rekordszam = number;
     clients_->enableDelete(true);
     applyButtonRule();
     pour({RecordFile<ClientRec>(folder_).read(number), RecordFile<TwinRec>(folder_).read(number)});
     // The click wrote the name, and a ticked search follows the name.
-    if (tabs_.yellowCheck.Check1) searchList(tabs_.yellowCheck.txNev, rekordszam_);
+    if (tabs_.yellowCheck.Check1) searchList(tabs_.yellowCheck.txNev, selected_.rekordszam);
 }
 
 void frmTarlimo::pour(const Client& client) {
-    shown_ = client;
+    selected_.record = client;
     pourClient(tabs_, client, {readRecord<Set>(folder_), readRecord<SetRcsekk>(folder_)}, device_);
     showAll();
 }
@@ -275,7 +274,7 @@ void frmTarlimo::searchList(const QString& text, int keep) {
 }
 
 void frmTarlimo::swapParties() {
-    chkCimzettCsereUlap_Click(tabs_.cashOnDelivery, shown_.client, readRecord<SetRcsekk>(folder_));
+    chkCimzettCsereUlap_Click(tabs_.cashOnDelivery, selected_.record.client, readRecord<SetRcsekk>(folder_));
 }
 
 // From here on the device is the system's default one, until a routine selects another.
@@ -308,8 +307,8 @@ void frmTarlimo::report(const PrintOutcome& outcome) {
 }
 
 void frmTarlimo::deleteClient() {
-    if (!cmdDel_Click(folder_, services_.prompts, rekordszam_, tabs_.yellowCheck.txNev)) return;
-    dropClient(tabs_.label, rekordszam_);
+    if (!cmdDel_Click(folder_, services_.prompts, selected_.rekordszam, tabs_.yellowCheck.txNev)) return;
+    dropClient(tabs_.label, selected_.rekordszam);
     clientsGone();
     statusBar()->showMessage(QStringLiteral("Az ügyfél törölve, %1 ügyfél maradt.").arg(clientCount(folder_)));
 }
@@ -323,7 +322,7 @@ void frmTarlimo::wipeDatabase() {
 
 // After this no held number names the client that the window still shows.
 void frmTarlimo::clientsGone() {
-    rekordszam_ = 0;
+    selected_.rekordszam = 0;
     clients_->enableDelete(false);
     clients_->Beolvas();
     labels_->showValues();

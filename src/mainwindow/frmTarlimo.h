@@ -23,7 +23,7 @@ public:
     // Stores what the window remembers: at the closing and at the end of the session.
     void storeState();
     // Record number of the client last clicked, 0 for none.
-    int rekordszam() const { return rekordszam_; }
+    int rekordszam() const { return selected_.rekordszam; }
     const FormTabs& tabs() const { return tabs_; }
 
 protected:
@@ -66,9 +66,8 @@ private:
     WindowServices services_;
     PrintDevice device_;
     FormTabs tabs_;
-    int rekordszam_ = 0;
+    SelectedClient selected_;
     int setupOldal_ = 0;
-    Client shown_; // the client last clicked, as read then
 
     QTabWidget* SSTab1_;
     ClientZone* clients_;

@@ -26,22 +26,14 @@ struct Route {
 // Every form that can be printed. A tab and feed without a row prints nothing: the families that aren't built yet, and
 // labels, which have one feed and no batch.
 constexpr Route routes[] = {
-    {yellowTab, Press::single, Feed::upright,
-     [](auto& desk, auto& tabs, auto&) { return PrintAlloCsekk(desk, tabs.yellowCheck); }},
-    {yellowTab, Press::single, Feed::sideways,
-     [](auto& desk, auto& tabs, auto&) { return PrintFekvoCsekk(desk, tabs.yellowCheck); }},
-    {yellowTab, Press::batch, Feed::upright,
-     [](auto& desk, auto& tabs, auto& rows) { return PrintCsAlloCsekk(desk, tabs.yellowCheck, rows); }},
-    {yellowTab, Press::batch, Feed::sideways,
-     [](auto& desk, auto& tabs, auto& rows) { return PrintCsFekvoCsekk(desk, tabs.yellowCheck, rows); }},
-    {pinkTab, Press::single, Feed::upright,
-     [](auto& desk, auto& tabs, auto&) { return PrintAlloRCsekk(desk, tabs.pinkCheck); }},
-    {pinkTab, Press::single, Feed::sideways,
-     [](auto& desk, auto& tabs, auto&) { return PrintFekvoRCsekk(desk, tabs.pinkCheck); }},
-    {pinkTab, Press::batch, Feed::upright,
-     [](auto& desk, auto& tabs, auto& rows) { return PrintCsAlloRcsekk(desk, tabs.pinkCheck, rows); }},
-    {pinkTab, Press::batch, Feed::sideways,
-     [](auto& desk, auto& tabs, auto& rows) { return PrintCsFekvoRcsekk(desk, tabs.pinkCheck, rows); }},
+    {yellowTab, Press::single, Feed::upright, PrintAlloCsekk},
+    {yellowTab, Press::single, Feed::sideways, PrintFekvoCsekk},
+    {yellowTab, Press::batch, Feed::upright, PrintCsAlloCsekk},
+    {yellowTab, Press::batch, Feed::sideways, PrintCsFekvoCsekk},
+    {pinkTab, Press::single, Feed::upright, PrintAlloRCsekk},
+    {pinkTab, Press::single, Feed::sideways, PrintFekvoRCsekk},
+    {pinkTab, Press::batch, Feed::upright, PrintCsAlloRcsekk},
+    {pinkTab, Press::batch, Feed::sideways, PrintCsFekvoRcsekk},
 };
 
 bool confirms(Prompts& prompts, const QString& text) {
@@ -66,10 +58,8 @@ bool isMeant(const PrintDesk& desk, const FormTabs& tabs, const Route& route, co
 
 } // namespace
 
-std::optional<PrintOutcome> dispatchPrint(const PrintDesk& desk, FormTabs& tabs, int tab, Feed feed, Press press,
+std::optional<PrintOutcome> dispatchPrint(const PrintDesk& desk, const FormTabs& tabs, int tab, Feed feed, Press press,
                                           const ListRows& rows) {
-    tabs.envelope.kepBal = leadingI16(tabs.envelope.lbXpoz);
-    tabs.envelope.kepFent = leadingI16(tabs.envelope.lbYpoz);
     const auto route = std::find_if(std::begin(routes), std::end(routes),
                                     [&](const Route& r) { return r.tab == tab && r.press == press && r.feed == feed; });
     if (route == std::end(routes)) return std::nullopt;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "records/program_folder.h"
+#include "printing/print_desk.h"
 
 #include <QGroupBox>
 
@@ -8,8 +8,6 @@ class QComboBox;
 class QLabel;
 class QPushButton;
 class QRadioButton;
-
-enum class Feed { upright, sideways }; // OpOrientacioAllo, OpOrientacioFekvo
 
 // Frame1: the two print buttons, of which one is visible at a time, the feed with its sample picture, and the choice of
 // the device, which is stored in Set.dat at once.

@@ -3,12 +3,13 @@
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFormLayout>
+#include <QLabel>
 #include <QPushButton>
 #include <QSpinBox>
 
 using namespace Qt::Literals::StringLiterals;
 
-PrinterDialog::PrinterDialog(const QStringList& printers, int current, QWidget* parent)
+PrinterDialog::PrinterDialog(const QStringList& printers, int current, const QString& summary, QWidget* parent)
     : QDialog(parent)
     , printer_(new QComboBox)
     , copies_(new QSpinBox) {
@@ -34,6 +35,12 @@ PrinterDialog::PrinterDialog(const QStringList& printers, int current, QWidget* 
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 
     auto* form = new QFormLayout(this);
+    if (!summary.isEmpty()) {
+        auto* what = new QLabel(summary);
+        what->setObjectName(u"summary"_s);
+        what->setTextFormat(Qt::PlainText);
+        form->addRow(what);
+    }
     form->addRow(u"&Nyomtató:"_s, printer_);
     form->addRow(u"&Példányszám:"_s, copies_);
     form->addRow(buttons);

@@ -14,7 +14,8 @@ class PrinterDialog : public QDialog {
 
 public:
     // `current` is preselected; beyond the list nothing is, and the dialog cannot be accepted before a choice.
-    PrinterDialog(const QStringList& printers, int current, QWidget* parent = nullptr);
+    // `summary` says what is about to print; empty, there is no line for it.
+    PrinterDialog(const QStringList& printers, int current, const QString& summary, QWidget* parent = nullptr);
 
     PrinterChoice choice() const;
 

@@ -117,8 +117,9 @@ QString QtPrompts::saveFile(const QString& title, const QString& filter) {
     }
 }
 
-std::optional<PrinterChoice> QtPrompts::choosePrinter(const QStringList& printers, int current) {
-    PrinterDialog dialog(printers, current, window());
+std::optional<PrinterChoice> QtPrompts::choosePrinter(const QStringList& printers, int current,
+                                                      const QString& summary) {
+    PrinterDialog dialog(printers, current, summary, window());
     if (dialog.exec() != QDialog::Accepted) return std::nullopt;
     return dialog.choice();
 }

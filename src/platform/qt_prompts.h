@@ -18,7 +18,8 @@ public:
     Answer ask(const Message& message, Answer preset) override;
     QString openFile(const QString& title, const QString& filter) override;
     QString saveFile(const QString& title, const QString& filter) override;
-    std::optional<PrinterChoice> choosePrinter(const QStringList& printers, int current) override;
+    std::optional<PrinterChoice> choosePrinter(const QStringList& printers, int current,
+                                               const QString& summary) override;
 
 private:
     QWidget* window() const;

@@ -64,9 +64,8 @@ struct EnvelopeTab {
     bool chkFKCNev = false, chkFKCNev2 = false, chkFKCCim1 = false, chkFKCCim2 = false, chkFKCIrsz = false;
     QString txtFelado5mezo;
     bool chkKepPrint = false;
-    QRectF Image3;               // box of the picture on the envelope, mm
-    QString lbXpoz, lbYpoz;      // its position, whole mm, as shown
-    int kepBal = 0, kepFent = 0; // the same as numbers, taken at each press of a print button
+    QRectF Image3;          // box of the picture on the envelope, mm
+    QString lbXpoz, lbYpoz; // its position, whole mm, as shown
 };
 
 struct LabelTab {
@@ -121,4 +120,28 @@ struct CashOnDeliveryTab {
     bool chkUtanvetEL = false, chkUtanvetR = false;
     QString lbUNevHatul, lbUHelysegHatul, lbUCimHatul, lbUIrszamHatul;
     QString cmdUtanvetOdalCsere() const;
+};
+
+// The tabs by their numbers in the window, from 0; Set.dat stores the number.
+enum class Tab {
+    yellowCheck,
+    returnReceipt,
+    postingReceipt,
+    envelope,
+    label,
+    documentReceipt,
+    pinkCheck,
+    cashOnDelivery
+};
+
+// The values of all eight tabs.
+struct FormTabs {
+    YellowCheckTab yellowCheck;
+    ReturnReceiptTab returnReceipt;
+    PostingReceiptTab postingReceipt;
+    EnvelopeTab envelope;
+    LabelTab label;
+    DocumentReceiptTab documentReceipt;
+    PinkCheckTab pinkCheck;
+    CashOnDeliveryTab cashOnDelivery;
 };

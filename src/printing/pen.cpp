@@ -34,9 +34,9 @@ void Pen::SelectPrinter(const Set& set, TrackDefault track) {
     });
 }
 
-void Pen::ShowPrinter() {
+void Pen::ShowPrinter(const QString& summary) {
     attempt([&] {
-        const auto choice = prompts_->choosePrinter(device_.Printers(), device_.currentPrinter());
+        const auto choice = prompts_->choosePrinter(device_.Printers(), device_.currentPrinter(), summary);
         if (!choice) throw DeviceError(32755, QStringLiteral("A nyomtatás megszakítva."));
         device_.useForThisJob(choice->printer, choice->copies);
     });

@@ -47,8 +47,9 @@ public:
     void StartFromA4();
     // The device of the settings, unless they say that the system's default is used.
     void SelectPrinter(const Set& set, TrackDefault track = TrackDefault::leave);
-    // The print dialog; device and copies picked there hold for this job. Cancel is error 32755.
-    void ShowPrinter();
+    // The print dialog with a summary of the job; device and copies picked there hold for this job. Cancel is error
+    // 32755.
+    void ShowPrinter(const QString& summary = {});
     void OpenForm(const PageRequest& request);
 
     // `name` may be padded, as in a record.

@@ -174,18 +174,18 @@ PrintOutcome printBatch(const PrintDesk& desk, const PinkCheckTab& tab, const st
 
 } // namespace
 
-PrintOutcome PrintAlloRCsekk(const PrintDesk& desk, const PinkCheckTab& tab) {
-    return printTab(desk, tab, FormRun::upright);
+PrintOutcome PrintAlloRCsekk(const PrintDesk& desk, const FormTabs& tabs, const ListRows& /*rows*/) {
+    return printTab(desk, tabs.pinkCheck, FormRun::upright);
 }
 
-PrintOutcome PrintFekvoRCsekk(const PrintDesk& desk, const PinkCheckTab& tab) {
-    return printTab(desk, tab, FormRun::sideways);
+PrintOutcome PrintFekvoRCsekk(const PrintDesk& desk, const FormTabs& tabs, const ListRows& /*rows*/) {
+    return printTab(desk, tabs.pinkCheck, FormRun::sideways);
 }
 
-PrintOutcome PrintCsAlloRcsekk(const PrintDesk& desk, const PinkCheckTab& tab, const ListRows& rows) {
-    return printBatch(desk, tab, rows.selected, tab.side, FormRun::uprightBatch);
+PrintOutcome PrintCsAlloRcsekk(const PrintDesk& desk, const FormTabs& tabs, const ListRows& rows) {
+    return printBatch(desk, tabs.pinkCheck, rows.selected, tabs.pinkCheck.side, FormRun::uprightBatch);
 }
 
-PrintOutcome PrintCsFekvoRcsekk(const PrintDesk& desk, const PinkCheckTab& tab, const ListRows& rows) {
-    return printBatch(desk, tab, rows.selected, Side::front, FormRun::sidewaysBatch);
+PrintOutcome PrintCsFekvoRcsekk(const PrintDesk& desk, const FormTabs& tabs, const ListRows& rows) {
+    return printBatch(desk, tabs.pinkCheck, rows.selected, Side::front, FormRun::sidewaysBatch);
 }

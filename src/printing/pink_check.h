@@ -6,7 +6,7 @@
 // The pink check: front or back, as the tab shows (PinkCheckTab::side), upright (Allo) and sideways (Fekvo). The batch
 // routines (Cs) print the selected clients, one page each; sideways they know the front only.
 
-PrintOutcome PrintAlloRCsekk(const PrintDesk& desk, const PinkCheckTab& tab);
-PrintOutcome PrintFekvoRCsekk(const PrintDesk& desk, const PinkCheckTab& tab);
-PrintOutcome PrintCsAlloRcsekk(const PrintDesk& desk, const PinkCheckTab& tab, const ListRows& rows);
-PrintOutcome PrintCsFekvoRcsekk(const PrintDesk& desk, const PinkCheckTab& tab, const ListRows& rows);
+PrintOutcome PrintAlloRCsekk(const PrintDesk& desk, const FormTabs& tabs, const ListRows& rows);
+PrintOutcome PrintFekvoRCsekk(const PrintDesk& desk, const FormTabs& tabs, const ListRows& rows);
+PrintOutcome PrintCsAlloRcsekk(const PrintDesk& desk, const FormTabs& tabs, const ListRows& rows);
+PrintOutcome PrintCsFekvoRcsekk(const PrintDesk& desk, const FormTabs& tabs, const ListRows& rows);

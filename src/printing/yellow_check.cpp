@@ -142,31 +142,31 @@ void printBatch(Pen& pen, const PrintDesk& desk, const YellowCheckTab& tab, cons
 
 } // namespace
 
-PrintOutcome PrintAlloCsekk(const PrintDesk& desk, const YellowCheckTab& tab) {
-    return printTab(desk, tab, FormRun::upright);
+PrintOutcome PrintAlloCsekk(const PrintDesk& desk, const FormTabs& tabs, const ListRows& /*rows*/) {
+    return printTab(desk, tabs.yellowCheck, FormRun::upright);
 }
 
-PrintOutcome PrintFekvoCsekk(const PrintDesk& desk, const YellowCheckTab& tab) {
-    return printTab(desk, tab, FormRun::sideways);
+PrintOutcome PrintFekvoCsekk(const PrintDesk& desk, const FormTabs& tabs, const ListRows& /*rows*/) {
+    return printTab(desk, tabs.yellowCheck, FormRun::sideways);
 }
 
-PrintOutcome PrintCsAlloCsekk(const PrintDesk& desk, const YellowCheckTab& tab, const ListRows& rows,
-                              PrintDialog dialog) {
+PrintOutcome PrintCsAlloCsekk(const PrintDesk& desk, const FormTabs& tabs, const ListRows& rows) {
     Pen pen(desk, FailureWay::message, jobTitle());
     pen.StartFromA4();
     const auto set = readRecord<Set>(desk.folder);
     pen.SelectPrinter(set);
-    if (dialog == PrintDialog::show) pen.ShowPrinter();
-    printBatch(pen, desk, tab, set, set.chkAutoPrint != 0 ? rows.all : rows.selected, FormRun::uprightBatch);
+    if (desk.attended) pen.ShowPrinter();
+    printBatch(pen, desk, tabs.yellowCheck, set, set.chkAutoPrint != 0 ? rows.all : rows.selected,
+               FormRun::uprightBatch);
     return pen.outcome();
 }
 
-PrintOutcome PrintCsFekvoCsekk(const PrintDesk& desk, const YellowCheckTab& tab, const ListRows& rows) {
+PrintOutcome PrintCsFekvoCsekk(const PrintDesk& desk, const FormTabs& tabs, const ListRows& rows) {
     Pen pen(desk, FailureWay::silent, jobTitle());
     pen.StartFromA4();
     const auto set = readRecord<Set>(desk.folder);
     pen.SelectPrinter(set);
-    printBatch(pen, desk, tab, set, rows.selected, FormRun::sidewaysBatch);
+    printBatch(pen, desk, tabs.yellowCheck, set, rows.selected, FormRun::sidewaysBatch);
     return pen.outcome();
 }
 

@@ -41,6 +41,8 @@ public:
     virtual QString openFile(const QString& title, const QString& filter) = 0;
     // Path of a file to write, after the overwrite question; empty if the user cancelled.
     virtual QString saveFile(const QString& title, const QString& filter) = 0;
-    // The print dialog, `current` preselected; nothing if the user cancelled.
-    virtual std::optional<PrinterChoice> choosePrinter(const QStringList& printers, int current) = 0;
+    // The print dialog, `current` preselected; `summary` says in a line or two what is about to print. Nothing if the
+    // user cancelled.
+    virtual std::optional<PrinterChoice> choosePrinter(const QStringList& printers, int current,
+                                                       const QString& summary) = 0;
 };

@@ -52,13 +52,10 @@ TEST_F(PrintDispatch, TabFeedAndButtonFindTheRoutine) {
 }
 
 TEST_F(PrintDispatch, NothingToPrintIsSilent) {
-    tabs.envelope.lbXpoz = QStringLiteral("-7 mm");
     for (const int tab : {1, 2, 3, 4, 5, 7, 8, -1}) // forms that aren't built
         for (const Feed feed : {Feed::upright, Feed::sideways})
             for (const Press press : {Press::single, Press::batch})
                 EXPECT_FALSE(print(tab, feed, press)) << tab;
-    EXPECT_EQ(tabs.envelope.kepBal, -7); // taken at every press
-    EXPECT_EQ(tabs.envelope.kepFent, 0);
     for (const char* amount : {"", "abc", "0", "x1500"}) {
         tabs.yellowCheck.txOsszeg = QString::fromLatin1(amount);
         EXPECT_FALSE(print(0, Feed::upright, Press::single)) << amount;

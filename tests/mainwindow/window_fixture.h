@@ -29,9 +29,10 @@ protected:
     // Lets a test look at the window while the print dialog is open.
     struct WindowPrompts : ScriptedPrompts {
         std::function<void()> whileChoosing = [] {};
-        std::optional<PrinterChoice> choosePrinter(const QStringList& printers, int current) override {
+        std::optional<PrinterChoice> choosePrinter(const QStringList& printers, int current,
+                                                   const QString& summary) override {
             whileChoosing();
-            return ScriptedPrompts::choosePrinter(printers, current);
+            return ScriptedPrompts::choosePrinter(printers, current, summary);
         }
     };
 

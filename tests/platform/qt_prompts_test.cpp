@@ -118,14 +118,14 @@ TEST(QtPrompts, thePrintDialogAnswersWithDeviceAndCopies) {
         dialog.findChild<QSpinBox*>(u"copies"_s)->setValue(100);
         button(dialog, u"OK"_s)->click();
     });
-    const PrinterChoice choice = prompts.choosePrinter(printers, 1).value();
+    const PrinterChoice choice = prompts.choosePrinter(printers, 1, u"9 csekk"_s).value();
     EXPECT_EQ(std::tuple(choice.printer, choice.copies), std::tuple(2, 99));
 
     onNext<QDialog>([](QDialog& dialog) { button(dialog, u"Mégse"_s)->click(); });
-    EXPECT_FALSE(prompts.choosePrinter(printers, 0).has_value());
+    EXPECT_FALSE(prompts.choosePrinter(printers, 0, {}).has_value());
 
     onNext<QDialog>([](QDialog& dialog) { EXPECT_FALSE(button(dialog, u"OK"_s)->isEnabled()); });
-    EXPECT_FALSE(prompts.choosePrinter(printers, 3).has_value());
+    EXPECT_FALSE(prompts.choosePrinter(printers, 3, {}).has_value());
 }
 
 TEST(QtPrompts, fileDialogsAnswerWithThePathOrNothing) {

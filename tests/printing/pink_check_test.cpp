@@ -23,7 +23,8 @@ const PageSetup uprightSheet{2, 27, {}};
 
 class PinkCheck : public CheckTest {
 protected:
-    PinkCheckTab tab = filledTab();
+    FormTabs tabs;
+    PinkCheckTab& tab = tabs.pinkCheck = filledTab();
 
     PinkCheck() {
         layout.txRcsekkNev.set(u"Állandó Bt.");
@@ -35,15 +36,15 @@ protected:
         addClient(clientNamed(u"Nulla Ödön"_s, 0));
     }
 
-    using Batch = PrintOutcome (*)(const PrintDesk&, const PinkCheckTab&, const ListRows&);
+    using Batch = PrintOutcome (*)(const PrintDesk&, const FormTabs&, const ListRows&);
     PrintOutcome print(Batch batch, const std::vector<int>& selected) {
         prompts.printerChoices = {PrinterChoice{1, 1}};
-        return batch(desk, tab, {{}, selected});
+        return batch(desk, tabs, {{}, selected});
     }
 };
 
 TEST_F(PinkCheck, BothSidesOfTheTab) {
-    EXPECT_EQ(PrintAlloRCsekk(desk, tab).pages, 1);
+    EXPECT_EQ(PrintAlloRCsekk(desk, tabs, {}).pages, 1);
     EXPECT_EQ(lastJob().job.title, u"rozsaszin-csekk"_s);
     EXPECT_EQ(lastSetup(), uprightSheet);
     EXPECT_EQ(page(), "15 7 A|***500***; 80 7 A|***500***; 80 36 A|***500***; 11 17 T|*Ötszáz*; 75 46 T|*Ötszáz*; "
@@ -52,7 +53,7 @@ TEST_F(PinkCheck, BothSidesOfTheTab) {
                       "147 77 T|9021");
 
     tab.RtxtSzoveg11 = u"alsó"_s;
-    PrintFekvoRCsekk(desk, tab);
+    PrintFekvoRCsekk(desk, tabs, {});
     EXPECT_EQ(lastSetup(), PageSetup());
     EXPECT_EQ(page(), "5 4 A|***500***; 70 4 A|***500***; 70 33 A|***500***; 3 15 T|*Ötszáz; 3 22 T|alsó*; "
                       "68 44 T|*Ötszáz; 68 51 T|alsó*; 70 13 T|Küldő Kft.; 75 17 T|1024 Budapest, Fő utca 1.; "
@@ -60,12 +61,12 @@ TEST_F(PinkCheck, BothSidesOfTheTab) {
                       "140 62 T|Győr; 140 66 T|Duna út 9.; 140 74 T|9021");
 
     tab.side = Side::back;
-    PrintAlloRCsekk(desk, tab);
+    PrintAlloRCsekk(desk, tabs, {});
     EXPECT_EQ(page(), "86 61 T|Hátsó Név; 86 65 T|Pécs; 86 69 T|Tér 3.; 0 73 T| ; 91 77 T|7621; 79 5 T|egy; "
                       "79 9 T|kettő; 79 17 T|négy");
     EXPECT_EQ(lastSetup(), uprightSheet);
 
-    PrintFekvoRCsekk(desk, tab);
+    PrintFekvoRCsekk(desk, tabs, {});
     EXPECT_EQ(page(), "78 59 T|Hátsó Név; 78 63 T|Pécs; 78 67 T|Tér 3.; 0 71 T| ; 83 75 T|7621; 71 3 T|egy; "
                       "71 7 T|kettő; 71 15 T|négy");
     EXPECT_EQ(lastSetup(), PageSetup());
@@ -114,7 +115,7 @@ TEST_F(PinkCheck, UprightBatchOfBacks) {
 }
 
 TEST_F(PinkCheck, FlagsLeaveTheirRowsOut) {
-    const auto print = [this] { PrintAlloRCsekk(desk, tab); };
+    const auto print = [this] { PrintAlloRCsekk(desk, tabs, {}); };
     expectRowsGone({{0, {1, 2, 3}}, {1, {4, 5}}, {3, {7}}, {4, {}}, {5, {}}, {6, {}}, {7, {}}}, print);
     storeAllFlagsBut(2); // an empty line below the (empty) second row of words, the address moves along
     print();
@@ -122,7 +123,7 @@ TEST_F(PinkCheck, FlagsLeaveTheirRowsOut) {
     EXPECT_TRUE(lines().contains(u"75 60 T|1024 Budapest, Fő utca 1."_s));
     set.chkNyomtatando.fill(false); // the addressee prints without any
     storeSettings();
-    const PrintOutcome outcome = PrintAlloRCsekk(desk, tab);
+    const PrintOutcome outcome = PrintAlloRCsekk(desk, tabs, {});
     EXPECT_EQ(outcome.pages, 1);
     EXPECT_EQ(outcome.trouble, u"A Beállításokban egyetlen nyomtatandó adat sincs kipipálva!"_s);
 }
@@ -131,14 +132,14 @@ TEST_F(PinkCheck, ErrorsAndCancelDropTheJobAndAreTold) {
     const auto toldText = [&] { return prompts.told.back().text.toStdString(); };
     prompts.printerChoices = {std::nullopt, std::nullopt};
     for (const Batch batch : {PrintCsAlloRcsekk, PrintCsFekvoRcsekk})
-        EXPECT_EQ(batch(desk, tab, {{}, {1}}).pages, 0);
+        EXPECT_EQ(batch(desk, tabs, {{}, {1}}).pages, 0);
     EXPECT_EQ(toldText(), "Hiba kódszáma: 32755\nA nyomtatás megszakítva.\n");
     EXPECT_EQ(print(PrintCsAlloRcsekk, {1, 40000}).pages, 0);
     EXPECT_EQ(toldText(), "Hiba kódszáma: 6\nTúlcsordulás\n");
     set.lbPrintNo = 7;
     storeSettings();
-    EXPECT_EQ(PrintAlloRCsekk(desk, tab).pages, 0);
-    EXPECT_EQ(PrintFekvoRCsekk(desk, tab).pages, 0);
+    EXPECT_EQ(PrintAlloRCsekk(desk, tabs, {}).pages, 0);
+    EXPECT_EQ(PrintFekvoRCsekk(desk, tabs, {}).pages, 0);
     EXPECT_EQ(toldText(), "Hiba kódszáma: 9\nAz index kívül esik a tartományon\n");
     EXPECT_EQ(prompts.told.size(), 5U);
     EXPECT_TRUE(service.delivered.empty());
@@ -148,8 +149,8 @@ TEST_F(PinkCheck, DamagedFilesNeverBringItDown) {
     printWithDamaged(SetRcsekk::fileName, 394, [this] {
         for (const Side side : {Side::front, Side::back}) {
             tab.side = side;
-            PrintAlloRCsekk(desk, tab);
-            PrintFekvoRCsekk(desk, tab);
+            PrintAlloRCsekk(desk, tabs, {});
+            PrintFekvoRCsekk(desk, tabs, {});
             print(PrintCsAlloRcsekk, {1, 32767});
             print(PrintCsFekvoRcsekk, {1, 32767});
         }

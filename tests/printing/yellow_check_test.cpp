@@ -28,9 +28,10 @@ const PageSetup sidewaysSheet{1, 9, QSizeF(210, 105)};
 
 class YellowCheck : public CheckTest {
 protected:
-    YellowCheckTab tab = filledTab();
+    FormTabs tabs;
+    YellowCheckTab& tab = tabs.yellowCheck = filledTab();
 
-    using Routine = PrintOutcome (*)(const PrintDesk&, const YellowCheckTab&);
+    using Routine = PrintOutcome (*)(const PrintDesk&, const FormTabs&, const ListRows&);
     const std::array<Routine, 2> singles{PrintAlloCsekk, PrintFekvoCsekk};
 
     void addFullClient(const QString& name, int amount, const TwinRec& twin = blankTwin()) const {
@@ -39,14 +40,15 @@ protected:
         client.FizHatIdo.set(u"június 1.");
         addClient(client, twin);
     }
+    PrintDesk unattended() const { return {desk.device, desk.prompts, desk.folder, false}; }
     PrintOutcome upright(const std::vector<int>& selected) {
-        return PrintCsAlloCsekk(desk, tab, {{}, selected}, PrintDialog::skip);
+        return PrintCsAlloCsekk(unattended(), tabs, {{}, selected});
     }
-    PrintOutcome sideways(const std::vector<int>& selected) { return PrintCsFekvoCsekk(desk, tab, {{}, selected}); }
+    PrintOutcome sideways(const std::vector<int>& selected) { return PrintCsFekvoCsekk(desk, tabs, {{}, selected}); }
 };
 
 TEST_F(YellowCheck, Tab) {
-    const PrintOutcome outcome = PrintAlloCsekk(desk, tab);
+    const PrintOutcome outcome = PrintAlloCsekk(desk, tabs, {});
     EXPECT_EQ(std::tuple(outcome.pages, outcome.device, outcome.trouble), std::tuple(1, u"Masodik"_s, QString()));
     EXPECT_EQ(lastJob().printer, 1);
     EXPECT_EQ(lastJob().job.title, u"sarga-csekk"_s);
@@ -60,7 +62,7 @@ TEST_F(YellowCheck, Tab) {
 
     tab.txtSzoveg11.clear();
     tab.chkBefAzonMasolasa = true;
-    PrintFekvoCsekk(desk, tab);
+    PrintFekvoCsekk(desk, tabs, {});
     EXPECT_EQ(lastSetup(), sidewaysSheet);
     EXPECT_EQ(page(), "15 6 A|***12345***; 80 6 A|***12345***; 150 5 T|közlemény 1; 150 9 T|harmadik; "
                       "150 13 T|közlemény 2; 2 15 T|*Tizenkettőezer-*; 68 15 T|*Tizenkettőezer-*; 80 40 A|AZ-1; "
@@ -111,7 +113,7 @@ TEST_F(YellowCheck, FlagsLeaveTheirRowsOut) {
                     {5, {11, 12, 13, 14}},
                     {6, {}},
                     {7, {10}}},
-                   [this] { PrintAlloCsekk(desk, tab); });
+                   [this] { PrintAlloCsekk(desk, tabs, {}); });
 }
 
 TEST_F(YellowCheck, EmptyLineTakesThePlaceOfTheNameAndCorrectionMovesUprightChecksOnly) {
@@ -122,8 +124,9 @@ TEST_F(YellowCheck, EmptyLineTakesThePlaceOfTheNameAndCorrectionMovesUprightChec
     // The empty lines stand at the row's own height in the upright single routine, else where the pen stands: below the
     // (empty) deadline row and below the first postcode.
     const std::tuple<std::function<void()>, float, const char*, const char*> rows[] = {
-        {[this] { PrintAlloCsekk(desk, tab); }, 19.3456F, "0 54 T| ; 0 54 T| ", "7 58 T|ŐRBOTTYÁN; 142 58 T|ŐRBOTTYÁN"},
-        {[this] { PrintFekvoCsekk(desk, tab); }, 12.3456F, "0 49 T| ; 0 72 T| ",
+        {[this] { PrintAlloCsekk(desk, tabs, {}); }, 19.3456F, "0 54 T| ; 0 54 T| ",
+         "7 58 T|ŐRBOTTYÁN; 142 58 T|ŐRBOTTYÁN"},
+        {[this] { PrintFekvoCsekk(desk, tabs, {}); }, 12.3456F, "0 49 T| ; 0 72 T| ",
          "5 53 T|ŐRBOTTYÁN; 140 76 T|ŐRBOTTYÁN"},
         {[this] { upright({1}); }, 19.3456F, "0 49 T| ; 0 72 T| ", "7 53 T|BUDAPEST; 142 76 T|BUDAPEST"},
         {[this] { sideways({1}); }, 12.3456F, "0 49 T| ; 0 72 T| ", "5 53 T|BUDAPEST; 140 76 T|BUDAPEST"},
@@ -160,11 +163,11 @@ TEST_F(YellowCheck, UprightBatchAsksForThePrinterAndTakesAllRowsWhenAutomatic) {
     addFullClient(u"Nagy Áron"_s, 700);
     const ListRows rows{{1}, {1}};
     prompts.printerChoices = {PrinterChoice{0, 3}, std::nullopt};
-    EXPECT_EQ(PrintCsAlloCsekk(desk, tab, rows).device, u"Elso"_s);
+    EXPECT_EQ(PrintCsAlloCsekk(desk, tabs, rows).device, u"Elso"_s);
     EXPECT_EQ(std::tuple(lastJob().printer, lastJob().job.copies), std::tuple(0, 3));
     EXPECT_EQ(lastSetup(), uprightSheet);
 
-    const PrintOutcome cancelled = PrintCsAlloCsekk(desk, tab, rows);
+    const PrintOutcome cancelled = PrintCsAlloCsekk(desk, tabs, rows);
     EXPECT_EQ(std::tuple(cancelled.pages, cancelled.trouble), std::tuple(0, u"A nyomtatás megszakítva."_s));
     ASSERT_EQ(prompts.told.size(), 1U);
     EXPECT_EQ(prompts.told[0].text, u"Hiba kódszáma: 32755\nA nyomtatás megszakítva.\n"_s);
@@ -175,7 +178,7 @@ TEST_F(YellowCheck, UprightBatchAsksForThePrinterAndTakesAllRowsWhenAutomatic) {
 
     // An empty selection: still the dialog, but no page, no message, and the choice is forgotten.
     prompts.printerChoices = {PrinterChoice{0, 3}};
-    EXPECT_EQ(PrintCsAlloCsekk(desk, tab, {{1}, {}}).pages, 0);
+    EXPECT_EQ(PrintCsAlloCsekk(desk, tabs, {{1}, {}}).pages, 0);
     EXPECT_EQ(sideways({}).trouble, QString());
     EXPECT_EQ(service.delivered.size(), 2U);
     EXPECT_EQ(prompts.told.size(), 1U);
@@ -183,8 +186,8 @@ TEST_F(YellowCheck, UprightBatchAsksForThePrinterAndTakesAllRowsWhenAutomatic) {
 
     set.chkAutoPrint = 1;
     storeSettings();
-    EXPECT_EQ(PrintCsAlloCsekk(desk, tab, {{1, 1}, {1}}, PrintDialog::skip).pages, 2);
-    EXPECT_EQ(PrintCsFekvoCsekk(desk, tab, {{1, 1}, {1}}).pages, 1);
+    EXPECT_EQ(PrintCsAlloCsekk(unattended(), tabs, {{1, 1}, {1}}).pages, 2);
+    EXPECT_EQ(PrintCsFekvoCsekk(desk, tabs, {{1, 1}, {1}}).pages, 1);
     EXPECT_EQ(prompts.printDialogs, 3);
 }
 
@@ -197,16 +200,17 @@ TEST_F(YellowCheck, WhatCannotBePrintedIsDroppedWhole) {
     ASSERT_EQ(prompts.told.size(), 3U); // the upright ones
     EXPECT_EQ(prompts.told[0].text, u"Hiba kódszáma: 6\nTúlcsordulás\n"_s);
 
-    const YellowCheckTab filled = std::exchange(tab, {});
+    const FormTabs filled = std::exchange(tabs, {});
     tab.txNev = u"   "_s;
     for (const Routine routine : singles)
-        EXPECT_FALSE(routine(desk, tab).trouble.isEmpty());
+        EXPECT_FALSE(routine(desk, tabs, {}).trouble.isEmpty());
     ASSERT_EQ(prompts.told.size(), 5U);
     EXPECT_EQ(prompts.told[4].title, u"!  H I B A  ! "_s);
     EXPECT_EQ(prompts.told[4].text, u" Nincs kijelölve ügyfél a listáról..."_s);
 
     files.store(zeroRecord<Set>()); // as if never written
-    EXPECT_EQ(PrintAlloCsekk(desk, filled).trouble, u"A Beállításokban egyetlen nyomtatandó adat sincs kipipálva!"_s);
+    EXPECT_EQ(PrintAlloCsekk(desk, filled, {}).trouble,
+              u"A Beállításokban egyetlen nyomtatandó adat sincs kipipálva!"_s);
     EXPECT_EQ(prompts.told.size(), 5U);
     EXPECT_TRUE(service.delivered.empty());
 }
@@ -215,7 +219,7 @@ TEST_F(YellowCheck, DamagedFilesNeverBringItDown) {
     addFullClient(u"Nagy Áron"_s, 700);
     printWithDamaged(Set::fileName, 548, [this] {
         for (const Routine routine : singles)
-            routine(desk, tab);
+            routine(desk, tabs, {});
         upright({1});
         sideways({1, 2, 32767});
     });
@@ -227,7 +231,7 @@ TEST_F(YellowCheck, DamagedFilesNeverBringItDown) {
     set.TextBetuMeret2 = 1;
     storeSettings();
     files.setBytes(QString::fromLatin1(ClientRec::fileName), QByteArray(271, '\xff'));
-    EXPECT_EQ(PrintAlloCsekk(desk, tab).pages, 1);
+    EXPECT_EQ(PrintAlloCsekk(desk, tabs, {}).pages, 1);
     EXPECT_EQ(upright({1}).pages, 0); // all rows: none were given
     EXPECT_EQ(sideways({1}).pages, 1);
 }

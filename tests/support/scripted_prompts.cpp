@@ -39,7 +39,8 @@ QString ScriptedPrompts::saveFile(const QString& title, const QString&) {
     return take(files, title, QString());
 }
 
-std::optional<PrinterChoice> ScriptedPrompts::choosePrinter(const QStringList&, int) {
+std::optional<PrinterChoice> ScriptedPrompts::choosePrinter(const QStringList&, int, const QString& summary) {
+    summaries.push_back(summary);
     ++printDialogs;
     return take(printerChoices, QStringLiteral("print dialog"), std::optional<PrinterChoice>());
 }

@@ -22,11 +22,13 @@ public:
     std::vector<Message> asked;
     std::vector<Answer> presets; // default button of each question
     std::vector<QString> fileTitles;
+    std::vector<QString> summaries; // of the print dialogs
     int printDialogs = 0;
 
     void tell(const Message& message) override;
     Answer ask(const Message& message, Answer preset) override;
     QString openFile(const QString& title, const QString& filter) override;
     QString saveFile(const QString& title, const QString& filter) override;
-    std::optional<PrinterChoice> choosePrinter(const QStringList& printers, int current) override;
+    std::optional<PrinterChoice> choosePrinter(const QStringList& printers, int current,
+                                               const QString& summary) override;
 };

@@ -30,7 +30,9 @@ QString TourPrompts::openFile(const QString&, const QString&) { return csv; }
 
 QString TourPrompts::saveFile(const QString&, const QString&) { return {}; }
 
-std::optional<PrinterChoice> TourPrompts::choosePrinter(const QStringList&, int) { return PrinterChoice{printer, 1}; }
+std::optional<PrinterChoice> TourPrompts::choosePrinter(const QStringList&, int, const QString&) {
+    return PrinterChoice{printer, 1};
+}
 
 Tour::Tour(const QString& delivered, const QString& results)
     : results_(results)

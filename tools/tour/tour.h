@@ -17,7 +17,8 @@ public:
     Answer ask(const Message& message, Answer preset) override;
     QString openFile(const QString& title, const QString& filter) override;
     QString saveFile(const QString& title, const QString& filter) override;
-    std::optional<PrinterChoice> choosePrinter(const QStringList& printers, int current) override;
+    std::optional<PrinterChoice> choosePrinter(const QStringList& printers, int current,
+                                               const QString& summary) override;
 };
 
 // Drives the real window through the main road on a fresh program folder: import, click, type, print, batch, setup.
