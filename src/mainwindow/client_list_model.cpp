@@ -284,8 +284,7 @@ const ClientRec& ClientListModel::client(int recordNumber) const {
     return reinterpret_cast<const ClientRec*>(clients_.constData())[recordNumber - 1];
 }
 
-ButtonRule buttonRule(int selectedRows, int tab) {
-    constexpr int labelTab = 4;
-    if (selectedRows < 2 || tab == labelTab) return {};
+ButtonRule buttonRule(int selectedRows, Tab tab) {
+    if (selectedRows < 2 || tab == Tab::label) return {};
     return {true, QString::number(selectedRows)};
 }

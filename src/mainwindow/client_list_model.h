@@ -1,5 +1,6 @@
 #pragma once
 
+#include "printing/form_tabs.h"
 #include "records/client_records.h"
 #include "records/program_folder.h"
 
@@ -45,6 +46,8 @@ public:
     int recordNumber(int row) const { return rows_[static_cast<std::size_t>(row)]; }
     // Row of a client, -1 if the list doesn't show it.
     int rowOf(int recordNumber) const;
+    // Clients in the file as last read, whether the list shows them or not.
+    int clientCount() const { return static_cast<int>(clients_.size() / qsizetype{sizeof(ClientRec)}); }
     // Record numbers of all rows in screen order.
     const std::vector<int>& recordNumbers() const { return rows_; }
 
@@ -82,5 +85,5 @@ struct ButtonRule {
     bool batch = false;  // the batch button is on view instead of the one for a single form
     QString lbKijelolve; // how many rows are selected, if it is more than one
 };
-// Labels have no batch: their one button prints all selected rows. `tab` is the number of the tab in view.
-ButtonRule buttonRule(int selectedRows, int tab);
+// Labels have no batch: their one button prints all selected rows.
+ButtonRule buttonRule(int selectedRows, Tab tab);

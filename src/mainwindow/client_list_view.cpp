@@ -3,6 +3,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QStyledItemDelegate>
 
 #include <algorithm>
@@ -22,7 +23,7 @@ public:
 
 ClientListView::ClientListView(QWidget* parent) : QTreeView(parent) {
     setObjectName(QStringLiteral("ListView1"));
-    setToolTip(QStringLiteral("''Delete\" -  kijelöltek törlése a listából").toHtmlEscaped());
+    setToolTip(QStringLiteral("''Delete\" -  kijelöltek törlése a listából"));
     setSelectionMode(ExtendedSelection);
     setSelectionBehavior(SelectRows);
     setItemDelegate(new RoomyRows(this));
@@ -50,6 +51,27 @@ void ClientListView::selectRow(int row) {
     const QModelIndex index = model()->index(row, 0);
     selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     scrollTo(index);
+}
+
+void ClientListView::setEmptyText(const QString& text) {
+    emptyText_ = text;
+    viewport()->update();
+}
+
+void ClientListView::enter() {
+    setFocus();
+    if (model()->rowCount() == 0) return;
+    selectRow(0);
+    Q_EMIT rowClicked(0);
+}
+
+void ClientListView::paintEvent(QPaintEvent* event) {
+    QTreeView::paintEvent(event);
+    if (model()->rowCount() > 0) return;
+    QPainter painter(viewport());
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    painter.drawText(viewport()->rect().adjusted(8, 8, -8, -8),
+                     Qt::AlignCenter | Qt::TextWordWrap | Qt::TextShowMnemonic, emptyText_);
 }
 
 void ClientListView::keyPressEvent(QKeyEvent* event) {

@@ -14,6 +14,11 @@ public:
     // Selects one row alone, without an event.
     void selectRow(int row);
 
+    // Shown in the middle of a list without rows.
+    void setEmptyText(const QString& text);
+    // Goes into the list from above, as its Down key would: the first row is picked.
+    void enter();
+
 Q_SIGNALS:
     void rowClicked(int row);
     void deletePressed();
@@ -22,7 +27,9 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
+    QString emptyText_;
     QItemSelection pressed_; // what was selected when the mouse went down
 };

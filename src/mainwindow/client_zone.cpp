@@ -1,11 +1,10 @@
 #include "mainwindow/client_zone.h"
 
 #include <QCheckBox>
-#include <QHBoxLayout>
+#include <QGridLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
-#include <QSignalBlocker>
 
 ClientZone::ClientZone(const ProgramFolder& folder, QWidget* parent)
     : QWidget(parent)
@@ -19,46 +18,63 @@ ClientZone::ClientZone(const ProgramFolder& folder, QWidget* parent)
     count_->setAlignment(Qt::AlignCenter);
     view_->setModel(&model_);
     setFocusProxy(view_);
-    view_->setColumnWidth(0, 353); // 5292, 7056 and 2540 twips; the last column takes what is left
-    view_->setColumnWidth(1, 470);
+    setColumnWidths({353, 470}); // 5292 and 7056 twips
     view_->header()->setStretchLastSection(true);
+    view_->setMinimumHeight(90);
 
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(view_, 1);
-    auto* column = new QVBoxLayout;
-    column->setSpacing(4);
-    QPushButton* reload = addButton("cmdBeolvas", "Beol&vasás", "Teljes adatállomány beolvasása a listába");
-    QPushButton* add = addButton("cmdRogzit", "&Felvétel");
-    QPushButton* modify = addButton("cmdModosit", "&Módosítás");
-    delete_ = addButton("cmdDel", "&Törlés");
-    QPushButton* amounts =
-        addButton("cmdOsszegek", "Csekk Összegek &Rögzítése", "Összeg rögzítése a kijelölt ügyfélhez...");
-    // The dialogs behind add, modify and amounts aren't there yet; delete waits for the first click on a row.
-    for (QPushButton* button : {add, modify, delete_, amounts})
-        button->setEnabled(false);
-    for (QWidget* widget : std::initializer_list<QWidget*>{reload, add, modify, delete_, amounts, order_})
-        column->addWidget(widget);
-    column->addStretch();
-    column->addWidget(count_);
-    layout->addLayout(column);
+    layout->addWidget(buildSide());
 
-    connect(reload, &QPushButton::clicked, this, [this] { model_.cmdBeolvas_Click(folder_); });
-    connect(delete_, &QPushButton::clicked, this, &ClientZone::deletePressed);
     connect(view_, &ClientListView::rowClicked, this, &ClientZone::rowClicked);
     connect(view_, &ClientListView::deletePressed, this, &ClientZone::removeSelected);
     connect(view_->header(), &QHeaderView::sectionClicked, this, &ClientZone::sortBy);
     connect(order_, &QCheckBox::toggled, this, [this] { sortBy(model_.sortColumn()); });
+    connect(&model_, &QAbstractItemModel::modelReset, this, &ClientZone::tellFilled);
 }
 
-QPushButton* ClientZone::addButton(const char* name, const char* caption, const char* tooltip) {
-    auto* button = new QPushButton(QString::fromUtf8(caption));
-    button->setObjectName(QLatin1String(name));
-    button->setToolTip(QString::fromUtf8(tooltip));
-    return button;
+// Two columns of buttons: on a low screen the list would else be as high as the six of them.
+QWidget* ClientZone::buildSide() {
+    struct Button {
+        const char* name;
+        const char16_t* caption;
+        const char16_t* tooltip;
+        int row, column, columns;
+        bool enabled; // the dialogs behind the others aren't there yet; delete waits for the first click on a row
+        void (ClientZone::*press)();
+    };
+    static constexpr Button buttons[] = {
+        {"cmdBeolvas", u"Beol&vasás", u"Teljes adatállomány beolvasása a listába (F5)", 0, 0, 1, true,
+         &ClientZone::cmdBeolvas_Click},
+        {"cmdRogzit", u"&Felvétel", u"", 0, 1, 1, false, nullptr},
+        {"cmdModosit", u"&Módosítás", u"", 1, 0, 1, false, nullptr},
+        {"cmdDel", u"&Törlés", u"", 1, 1, 1, false, &ClientZone::deletePressed},
+        {"cmdOsszegek", u"Csekk Összegek &Rögzítése", u"Összeg rögzítése a kijelölt ügyfélhez...", 2, 0, 2, false,
+         nullptr},
+    };
+    auto* side = new QWidget;
+    auto* grid = new QGridLayout(side);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setSpacing(4);
+    for (const Button& row : buttons) {
+        auto* button = new QPushButton(QString::fromUtf16(row.caption));
+        button->setObjectName(QLatin1String(row.name));
+        button->setToolTip(QString::fromUtf16(row.tooltip));
+        button->setEnabled(row.enabled);
+        if (row.press != nullptr) connect(button, &QPushButton::clicked, this, row.press);
+        grid->addWidget(button, row.row, row.column, 1, row.columns);
+    }
+    delete_ = side->findChild<QPushButton*>(QStringLiteral("cmdDel"));
+    grid->addWidget(order_, 3, 0, 1, 2);
+    grid->addWidget(count_, 4, 0, 1, 2);
+    grid->setRowStretch(5, 1);
+    return side;
 }
 
 void ClientZone::Beolvas() { model_.Beolvas(folder_); }
+
+void ClientZone::cmdBeolvas_Click() { model_.cmdBeolvas_Click(folder_); }
 
 void ClientZone::search(const QString& text, int keep) {
     model_.search(folder_, text);
@@ -79,11 +95,23 @@ void ClientZone::sortBy(int column) {
     view_->header()->setSortIndicatorShown(true);
     view_->header()->setSortIndicator(column, order);
     model_.setSort(column, order);
+    view_->scrollTo(view_->currentIndex());
 }
 
 void ClientZone::removeSelected() {
-    model_.removeRows(view_->selectedRows());
+    const QList<int> rows = view_->selectedRows();
+    if (rows.isEmpty()) return;
+    model_.removeRows(rows);
     showCount(QString());
+    view_->setEmptyText(QStringLiteral("A lista üres. A Beolvasás gomb (F5) minden ügyfelet visszahoz."));
+    Q_EMIT said(QStringLiteral("%1 sor levéve a listáról, az adatbázisban megmaradtak").arg(rows.size()));
+}
+
+void ClientZone::tellFilled() {
+    view_->setEmptyText(model_.clientCount() == 0
+                            ? QStringLiteral("Nincs ügyfél. Adatbázis › Adatbázis importálása &CSV fájlból")
+                            : QStringLiteral("Nincs ilyen nevű ügyfél."));
+    Q_EMIT filled(model_.clientCount());
 }
 
 void ClientZone::showCount(const QString& lbKijelolve) { count_->setText(lbKijelolve); }
@@ -93,3 +121,8 @@ void ClientZone::enableDelete(bool enabled) { delete_->setEnabled(enabled); }
 bool ClientZone::isAscending() const { return order_->isChecked(); }
 
 void ClientZone::setAscending(bool ascending) { order_->setChecked(ascending); }
+
+void ClientZone::setColumnWidths(const QList<int>& widths) {
+    for (int column = 0; column < widths.size() && column < 2; ++column)
+        view_->setColumnWidth(column, qBound(40, widths[column], 4000));
+}

@@ -7,6 +7,7 @@
 #include <QWidget>
 
 class QCheckBox;
+class QGridLayout;
 class QLabel;
 class QPushButton;
 
@@ -18,8 +19,12 @@ public:
 
     // Refills the list from nevek1.dat; selection, buttons and count stay as they are told to be.
     void Beolvas();
+    // The button: the same with bare record numbers.
+    void cmdBeolvas_Click();
     // Narrows the list to the names that contain `text`; `keep` is then selected again if it is still there.
     void search(const QString& text, int keep);
+    // The focus goes into the list, and its first client is picked.
+    void enterList() { view_->enter(); }
 
     ListRows rows() const;
     int selectedCount() const { return static_cast<int>(view_->selectedRows().size()); }
@@ -30,14 +35,23 @@ public:
     // Restores the stored order; ticked, it switches sorting on.
     void setAscending(bool ascending);
 
+    // Widths of the first two columns in pixels, to be kept from run to run; the last takes what is left.
+    QList<int> columnWidths() const { return {view_->columnWidth(0), view_->columnWidth(1)}; }
+    void setColumnWidths(const QList<int>& widths);
+
 Q_SIGNALS:
     void rowClicked(int row);
     void deletePressed();
+    // The list was filled anew from a database of so many clients.
+    void filled(qint64 clients);
+    // For the status line.
+    void said(const QString& text);
 
 private:
-    QPushButton* addButton(const char* name, const char* caption, const char* tooltip = "");
+    QWidget* buildSide();
     void sortBy(int column);
     void removeSelected();
+    void tellFilled();
 
     const ProgramFolder& folder_;
     ClientListModel model_;

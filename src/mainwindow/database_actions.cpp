@@ -1,19 +1,17 @@
 #include "mainwindow/database_actions.h"
 
+#include "mainwindow/work_in_progress.h"
 #include "prompts/titles.h"
 #include "settings/general_settings.h"
 
 #include <QCursor>
 #include <QGuiApplication>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
-const QString importTitle = QStringLiteral("Adatbázis importálása");
-
-void tellNotWritten(Prompts& prompts) {
-    prompts.tell(
-        {Icon::critical, titles::error, QStringLiteral("Az adatbázis nem írható, a korábbi állapot maradt meg.")});
-}
+const QString importTitle = u"Adatbázis importálása"_s;
 
 // The hourglass for as long as it lives.
 struct WaitCursor {
@@ -23,76 +21,106 @@ struct WaitCursor {
     ~WaitCursor() { QGuiApplication::restoreOverrideCursor(); }
 };
 
+// "Nem" is preset: an ENTER too many must not take clients away.
+bool confirms(Prompts& prompts, const QString& title, const QString& question) {
+    return prompts.ask({Icon::question, title, question}, Answer::no) == Answer::yes;
+}
+
 } // namespace
 
-bool cmdDel_Click(const ProgramFolder& folder, Prompts& prompts, int rekordszam, const QString& shownName) {
-    if (rekordszam < 1 || rekordszam > clientCount(folder)) {
-        prompts.tell({Icon::information, titles::attention, QStringLiteral(" Nincs kijelölve ügyfél a listáról...")});
-        return false;
-    }
-    const QString storedName = RecordFile<ClientRec>(folder).read(rekordszam).Nev.trimmed();
+DatabaseActions::DatabaseActions(const ProgramFolder& folder, Prompts& prompts, WorkInProgress& work)
+    : folder_(folder)
+    , prompts_(prompts)
+    , work_(work) {}
+
+void DatabaseActions::checkAtStart() {
+    if (!finishInterruptedCommit(folder_))
+        prompts_.tell({Icon::information, titles::attention,
+                       u"Az ügyfelek adatbázisának cseréje legutóbb félbeszakadt,\nés nem fejezhető be. "
+                       "A korábbi adatbázis maradt meg."_s});
+    if (!folder_.isWritable())
+        prompts_.tell({Icon::information, titles::attention,
+                       u"A program mappája nem írható,\naz adatok és a beállítások nem menthetők!"_s});
+}
+
+void DatabaseActions::cmdDel_Click(int rekordszam, const QString& shownName) {
+    if (rekordszam < 1 || rekordszam > clientCount(folder_))
+        return prompts_.tell({Icon::information, titles::attention, u" Nincs kijelölve ügyfél a listáról..."_s});
+    const QString storedName = RecordFile<ClientRec>(folder_).read(rekordszam).Nev.trimmed();
     const QString name = trimBlanks(shownName) == storedName ? shownName : storedName;
-    const QString question = QStringLiteral("Biztos mehet \n%1\n\ntörlése?").arg(name.toUpper());
-    if (prompts.ask({Icon::question, QStringLiteral("Feladó törlése"), question}) == Answer::no) return false;
-    const bool deleted = deleteClient(folder, rekordszam);
-    if (!deleted) tellNotWritten(prompts);
-    return deleted;
-}
-
-bool mnuAdatbazisTorles_Click(const ProgramFolder& folder, Prompts& prompts) {
-    const QString question = QStringLiteral("Biztos benne hogy TÖRLI \na teljes adatbázist?\n\nMehet a TÖRLÉS?");
-    if (prompts.ask({Icon::question, QStringLiteral("Adatbázis törlése"), question}) == Answer::no) return false;
-    const bool wiped = wipeClients(folder);
-    if (!wiped) tellNotWritten(prompts);
-    return wiped;
-}
-
-ImportResult mnuAdatCsvbol_Click(const ProgramFolder& folder, Prompts& prompts, const ProgressFn& progress) {
-    ImportResult result;
-    const QString filter = QStringLiteral("*.csv");
-    result.mode = readRecord<Set>(folder).opHozzafuzes_1 ? ImportMode::overwrite : ImportMode::append;
-    // The mode is set in another dialog and there is no further question: the title says what will happen.
-    const QString path = prompts.openFile(result.mode == ImportMode::overwrite
-                                              ? QStringLiteral("Importálás - a meglévő adatbázis FELÜLÍRÁSÁVAL")
-                                              : QStringLiteral("Importálás - hozzáfűzés"),
-                                          filter);
-    if (path.isEmpty() || path == filter) return result;
-    const ImportOutcome outcome = [&] {
+    if (!confirms(prompts_, u"Feladó törlése"_s, u"Biztos mehet \n%1\n\ntörlése?"_s.arg(name.toUpper()))) return;
+    const bool deleted = [&] {
         const WaitCursor wait;
-        return importClients(path, folder, result.mode, progress);
+        const WorkInProgress::Turn turn(work_);
+        return deleteClient(folder_, rekordszam);
     }();
+    if (!deleted) return tellNotWritten();
+    Q_EMIT changed({ClientsChanged::removed, rekordszam});
+    Q_EMIT said(u"Az ügyfél törölve, %1 ügyfél maradt."_s.arg(clientCount(folder_)));
+}
+
+void DatabaseActions::mnuAdatbazisTorles_Click() {
+    const QString question = u"Biztos benne hogy TÖRLI \na teljes adatbázist?\n\nMehet a TÖRLÉS?"_s;
+    if (!confirms(prompts_, u"Adatbázis törlése"_s, question)) return;
+    if (!wipeClients(folder_)) return tellNotWritten();
+    Q_EMIT changed({ClientsChanged::replaced});
+    Q_EMIT said(u"Az adatbázis üres."_s);
+}
+
+void DatabaseActions::mnuAdatCsvbol_Click() {
+    const QString filter = u"*.csv"_s;
+    const ImportMode mode = readRecord<Set>(folder_).opHozzafuzes_1 ? ImportMode::overwrite : ImportMode::append;
+    // The mode is set in another dialog and there is no further question: the title says what will happen.
+    const QString path =
+        prompts_.openFile(mode == ImportMode::overwrite ? u"Importálás - a meglévő adatbázis FELÜLÍRÁSÁVAL"_s
+                                                        : u"Importálás - hozzáfűzés"_s,
+                          filter);
+    if (path.isEmpty() || path == filter) return;
+    const ImportOutcome outcome = import(path, mode);
+    const auto refuse = [this](const QString& why) {
+        prompts_.tell({Icon::critical, titles::error, why + u", az adatbázis nem változott."_s});
+    };
     switch (outcome.result) {
     case ImportOutcome::Result::imported:
-        result.clients = outcome.clients;
-        result.badAmounts = outcome.badAmounts;
-        break;
+        Q_EMIT changed({mode == ImportMode::overwrite ? ClientsChanged::replaced : ClientsChanged::appended});
+        Q_EMIT said(
+            u"%1 ügyfél beolvasva, az adatbázisban %2 ügyfél van."_s.arg(outcome.clients).arg(clientCount(folder_)));
+        return tellImported(outcome);
     case ImportOutcome::Result::empty:
-        prompts.tell({Icon::critical, titles::error, QStringLiteral("A fájl üres, az adatbázis nem változott.")});
-        break;
+        return refuse(u"A fájl üres"_s);
     case ImportOutcome::Result::unreadable:
-        prompts.tell(
-            {Icon::critical, titles::error, QStringLiteral("A fájl nem olvasható, az adatbázis nem változott.")});
-        break;
+        return refuse(u"A fájl nem olvasható"_s);
     case ImportOutcome::Result::notWritten:
-        tellNotWritten(prompts);
-        break;
+        return tellNotWritten();
     }
-    return result;
 }
 
-void tellImported(const ProgramFolder& folder, Prompts& prompts, const ImportResult& result) {
-    if (result.badAmounts > 0)
-        prompts.tell({Icon::information, importTitle,
-                      QStringLiteral("A beolvasott adatokból %1 rekord összege nem értelmezhető, ezek összege 0 lett.\n"
-                                     "Ellenőrízd a ''csv'' fájl helyességét.")
-                          .arg(result.badAmounts)});
-    prompts.tell({Icon::information, importTitle,
-                  QStringLiteral("Az adatbázis importálása befejeződött.\n\n"
-                                 "Ha a listamezőben az adatbázis nem megfelelő,\n"
-                                 "törölje az adatbázist és ellenőrízze a ''csv'' fájlt,\n"
-                                 "majd indítsa el újra az importálást.")});
-    if (clientCount(folder) > maxClientNumber)
-        prompts.tell({Icon::information, titles::attention,
-                      QStringLiteral("Az adatbázis 32767-nél több ügyfelet tartalmaz,\n"
-                                     "a többi a listából nem választható ki!")});
+ImportOutcome DatabaseActions::import(const QString& path, ImportMode mode) {
+    const WaitCursor wait;
+    const WorkInProgress::Turn turn(work_);
+    return importClients(path, folder_, mode, [this](qint64 done, qint64 total) {
+        const qint64 percent = total > 0 ? done * 100 / total : 0;
+        work_.step(done, total, u"Beolvasás: %1 %…"_s.arg(percent), WorkInProgress::Cancel::impossible);
+    });
+}
+
+// The closing messages, once the list stands.
+void DatabaseActions::tellImported(const ImportOutcome& outcome) {
+    if (outcome.badAmounts > 0)
+        prompts_.tell({Icon::information, importTitle,
+                       u"A beolvasott adatokból %1 rekord összege nem értelmezhető, ezek összege 0 lett.\n"
+                       "Ellenőrízd a ''csv'' fájl helyességét."_s.arg(outcome.badAmounts)});
+    prompts_.tell({Icon::information, importTitle,
+                   u"Az adatbázis importálása befejeződött.\n\n"
+                   "Ha a listamezőben az adatbázis nem megfelelő,\n"
+                   "törölje az adatbázist és ellenőrízze a ''csv'' fájlt,\n"
+                   "majd indítsa el újra az importálást."_s});
+    if (clientCount(folder_) > maxClientNumber)
+        prompts_.tell({Icon::information, titles::attention,
+                       u"Az adatbázis 32767-nél több ügyfelet tartalmaz,\n"
+                       "a többi a listából nem választható ki!"_s});
+}
+
+void DatabaseActions::tellNotWritten() {
+    prompts_.tell({Icon::critical, titles::error, u"Az adatbázis nem írható, a korábbi állapot maradt meg."_s});
 }

@@ -1,23 +1,47 @@
 #pragma once
 
 #include "exchange/csv_import.h"
-#include "prompts/prompts.h"
-#include "records/client_database.h"
+#include "mainwindow/bound_view.h"
 
-// What the menu and the buttons do to the whole client database, with the questions and messages that belong to it.
-// Each tells whether the database changed, so that the list and the held numbers can follow.
-
-// `shownName` is the name that the window shows; the question names the person of the record if the two differ.
-bool cmdDel_Click(const ProgramFolder& folder, Prompts& prompts, int rekordszam, const QString& shownName);
-
-bool mnuAdatbazisTorles_Click(const ProgramFolder& folder, Prompts& prompts);
-
-// Asks for the file and imports it in the mode of Set.dat. `clients` is how many came in, -1 if nothing was imported.
-struct ImportResult {
-    ImportMode mode = ImportMode::append;
-    qint64 clients = -1;
-    qint64 badAmounts = 0;
+// What happened to the clients of the database. Record numbers that somebody holds follow it in one place.
+struct ClientsChanged {
+    enum What {
+        appended, // behind the others, whose numbers stand
+        modified, // client `number`
+        removed,  // client `number`; those behind it moved down by one
+        replaced  // nobody is who he was
+    } what;
+    int number = 0;
 };
-ImportResult mnuAdatCsvbol_Click(const ProgramFolder& folder, Prompts& prompts, const ProgressFn& progress);
-// The closing messages, told once the list stands.
-void tellImported(const ProgramFolder& folder, Prompts& prompts, const ImportResult& result);
+
+class WorkInProgress;
+
+// What the menu and the buttons do to the client database as a whole, with the questions and messages that belong to
+// it. Whoever shows clients hears of the change first; what it came to is said last.
+class DatabaseActions : public QObject {
+    Q_OBJECT
+public:
+    DatabaseActions(const ProgramFolder& folder, Prompts& prompts, WorkInProgress& work);
+
+    // Finishes what a killed process left, and tells of that and of a folder that can't be written.
+    void checkAtStart();
+    // `shownName` is the name that the window shows; the question names the person of the record if the two differ.
+    void cmdDel_Click(int rekordszam, const QString& shownName);
+    void mnuAdatbazisTorles_Click();
+    // Asks for the file and imports it in the mode of Set.dat.
+    void mnuAdatCsvbol_Click();
+
+Q_SIGNALS:
+    void changed(const ClientsChanged& change);
+    // For the status line.
+    void said(const QString& text);
+
+private:
+    ImportOutcome import(const QString& path, ImportMode mode);
+    void tellImported(const ImportOutcome& outcome);
+    void tellNotWritten();
+
+    const ProgramFolder& folder_;
+    Prompts& prompts_;
+    WorkInProgress& work_;
+};

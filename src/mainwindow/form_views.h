@@ -25,6 +25,8 @@ public:
         QStringList titles, secondTitles, notices;
     };
     void offerCatalogues(Catalogues catalogues);
+    // The box that the list is searched by.
+    QLineEdit* searchBox() const { return searchBox_; }
 
 Q_SIGNALS:
     // txNev changed while Check1 is ticked.
@@ -34,6 +36,7 @@ private:
     void runRule(const QString& name);
 
     YellowCheckTab& tab_;
+    QLineEdit* searchBox_ = nullptr;
     Catalogues catalogues_;
 };
 

@@ -1,17 +1,17 @@
 #pragma once
 
-#include "mainwindow/client_pour.h"
 #include "mainwindow/database_actions.h"
-#include "mainwindow/form_views.h"
-#include "mainwindow/print_dispatch.h"
+#include "mainwindow/print_actions.h"
 #include "mainwindow/window_services.h"
+#include "mainwindow/work_in_progress.h"
 
 #include <QMainWindow>
 
 class ClientZone;
 class PrintPanel;
-class QProgressBar;
-class QTabWidget;
+class QSplitter;
+class StatusLine;
+class TabStrip;
 
 // The main window: eight tabs of forms, the client list, the print panel and the menu. It owns the values of the tabs
 // and carries each event to the rules; no work of a tab is done here. The folder and the services must outlive it.
@@ -31,34 +31,23 @@ protected:
 
 private:
     void buildLayout();
-    void buildTabs();
+    void connectParts();
     void connectMenu();
+    void connectKeys();
 
     void load();
     void restoreControls();
-    void fillFonts();
     // Refills the catalogue boxes. Runs at the start and on the return from the program's own windows, not after
     // message boxes or print dialogs: it empties notice and titles, which a running batch still needs.
     void activate();
 
-    void tabClicked(int tab);
-    void reloadTab(int tab);
     void rowClicked(int row);
-    void pour(const Client& client);
     void applyButtonRule();
     // `keep` is the client whose row is selected again; 0 for none.
     void searchList(const QString& text, int keep);
-    void swapParties();
-    void showAll();
+    // The one place where those who hold or show clients follow a change of the database.
+    void clientsChanged(const ClientsChanged& change);
 
-    void followDefault();
-    void press(Press press);
-    void report(const PrintOutcome& outcome);
-    void deleteClient();
-    void wipeDatabase();
-    void importCsv();
-    void showProgress(qint64 done, qint64 total);
-    void clientsGone();
     void showSetup();
     void askAndClose();
 
@@ -67,13 +56,14 @@ private:
     PrintDevice device_;
     FormTabs tabs_;
     SelectedClient selected_;
-    int setupOldal_ = 0;
 
-    QTabWidget* SSTab1_;
+    TabStrip* SSTab1_;
+    QSplitter* splitter_;
     ClientZone* clients_;
     PrintPanel* panel_;
-    QProgressBar* progress_;
-    YellowCheckView* yellowCheck_ = nullptr;
-    LabelView* labels_ = nullptr;
-    std::vector<BoundView*> views_; // by tab
+    StatusLine* line_;
+
+    WorkInProgress work_;
+    DatabaseActions database_;
+    PrintActions printing_;
 };

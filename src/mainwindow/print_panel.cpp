@@ -1,72 +1,107 @@
 #include "mainwindow/print_panel.h"
 
 #include "controls/entry_combo.h"
+#include "mainwindow/print_button.h"
 #include "records/record_file.h"
 #include "settings/general_settings.h"
 
+#include <QButtonGroup>
 #include <QLabel>
-#include <QPushButton>
+#include <QPainter>
 #include <QRadioButton>
 #include <QSignalBlocker>
+#include <QStyleOptionButton>
 #include <QVBoxLayout>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// Pictures of how the stationery lies in the printer. Labels have no sideways feed.
-constexpr const char* samples[8][2] = {
-    {"csekkkepallo.jpg", "csekkkepfekvo.jpg"},
-    {"Tertikepallo.jpg", "Tertikepfekvo.jpg"},
-    {"Feladokepallo.jpg", "Feladokepfekvo.jpg"},
-    {"Boritekkepallo.jpg", "Boritekkepfekvo.jpg"},
-    {"cimkekep.jpg", nullptr},
-    {"Iratkepallo.jpg", "Iratkepfekvo.jpg"},
-    {"RcsekkkepAllo.jpg", "RcsekkkepFekvo.jpg"},
-    {"UtanveteliLapAllo.jpg", "UtanveteliLapfekvo.jpg"},
+constexpr int largestSample = 170;
+constexpr int smallestSample = 56;
+
+// An option whose long caption stands on two lines, since the panel would be wide through it alone.
+class TwoLineOption : public QRadioButton {
+public:
+    using QRadioButton::QRadioButton;
+    QSize sizeHint() const override {
+        QStyleOptionButton option;
+        initStyleOption(&option);
+        const QSize text = fontMetrics().size(Qt::TextShowMnemonic, option.text);
+        return style()->sizeFromContents(QStyle::CT_RadioButton, &option, text, this);
+    }
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+protected:
+    void initStyleOption(QStyleOptionButton* option) const override {
+        QRadioButton::initStyleOption(option);
+        const qsizetype middle = option->text.indexOf(u' ', option->text.size() / 2);
+        if (middle > 0) option->text[middle] = u'\n';
+    }
 };
-constexpr int labelTab = 4;
-constexpr int sampleSize = 170;
+
+template<class Widget>
+Widget* named(const char* name, Widget* widget) {
+    widget->setObjectName(QLatin1String(name));
+    return widget;
+}
 
 } // namespace
 
-PrintPanel::PrintPanel(const ProgramFolder& folder, QWidget* parent)
-    : QGroupBox(QStringLiteral("Nyomtatás"), parent)
-    , folder_(folder)
-    , print_(new QPushButton(QStringLiteral("&Nyomtatás")))
-    , batch_(new QPushButton(QStringLiteral("&Csoportos Nyomtatás")))
-    , upright_(new QRadioButton(QStringLiteral("Álló")))
-    , sideways_(new QRadioButton(QStringLiteral("Fekvő")))
-    , sample_(new QLabel) {
-    setObjectName(QStringLiteral("Frame1"));
-    print_->setObjectName(QStringLiteral("cmdPrint"));
-    batch_->setObjectName(QStringLiteral("cmdCsPrint"));
-    upright_->setObjectName(QStringLiteral("OpOrientacioAllo"));
-    sideways_->setObjectName(QStringLiteral("OpOrientacioFekvo"));
-    sample_->setObjectName(QStringLiteral("Picture2"));
-    upright_->setChecked(true);
-    batch_->hide();
-    for (QPushButton* button : {print_, batch_})
-        button->setMinimumHeight(34);
-    sample_->setFixedSize(sampleSize, sampleSize);
-    sample_->setFrameStyle(QFrame::StyledPanel | QFrame::Plain);
+// Takes the room that is left, down to a size that still tells how the paper lies.
+class SamplePicture : public QLabel {
+public:
+    SamplePicture() {
+        setFrameStyle(QFrame::StyledPanel | QFrame::Plain);
+        setAlignment(Qt::AlignCenter);
+        setWordWrap(true);
+        setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
+        setMinimumHeight(smallestSample);
+        setMaximumHeight(largestSample);
+    }
+    void showFile(const ProgramFolder& folder, const QString& name) {
+        picture_ = QImage(folder.file(name));
+        setText(picture_.isNull() ? u"Hiányzó kép:\n"_s + name : QString());
+        update();
+    }
+    QSize sizeHint() const override { return {largestSample, largestSample}; }
 
-    deviceName_ = new QLabel;
-    deviceName_->setObjectName(QStringLiteral("lbNyomtato"));
+protected:
+    void paintEvent(QPaintEvent* event) override {
+        QLabel::paintEvent(event);
+        if (picture_.isNull()) return;
+        const QImage scaled =
+            picture_.scaled(contentsRect().size() * devicePixelRatioF(), Qt::KeepAspectRatio, Qt::SmoothTransformation);
+        QRect place(QPoint(), scaled.size() / devicePixelRatioF());
+        place.moveCenter(contentsRect().center());
+        QPainter(this).drawImage(place, scaled);
+    }
+
+private:
+    QImage picture_;
+};
+
+PrintPanel::PrintPanel(const ProgramFolder& folder, QWidget* parent)
+    : QGroupBox(u"Nyomtatás"_s, parent)
+    , folder_(folder)
+    , print_(named("cmdPrint", new PrintButton(u"&Nyomtatás"_s)))
+    , batch_(named("cmdCsPrint", new PrintButton(u"&Csoportos Nyomtatás"_s)))
+    , sample_(named("Picture2", new SamplePicture))
+    , deviceName_(named("lbNyomtato", new QLabel)) {
+    setObjectName(u"Frame1"_s);
+    batch_->hide();
+    for (PrintButton* button : {print_, batch_})
+        button->setToolTip(u"Nyomtatás (Ctrl+P)"_s);
     deviceName_->setTextFormat(Qt::PlainText);
     deviceName_->setAlignment(Qt::AlignCenter);
     deviceName_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); // a long name must not widen the panel
-    auto* feeds = new QHBoxLayout;
-    feeds->addStretch();
-    feeds->addWidget(upright_);
-    feeds->addSpacing(12);
-    feeds->addWidget(sideways_);
-    feeds->addStretch();
     auto* column = new QVBoxLayout(this);
+    column->setSpacing(4);
     column->addWidget(print_);
     column->addWidget(batch_);
     column->addWidget(deviceName_);
-    column->addSpacing(4);
-    column->addLayout(feeds);
-    column->addWidget(sample_, 0, Qt::AlignHCenter);
+    column->addLayout(buildFeeds());
+    column->addWidget(sample_, 1);
     column->addStretch();
     column->addWidget(buildDeviceChoice());
 
@@ -75,23 +110,37 @@ PrintPanel::PrintPanel(const ProgramFolder& folder, QWidget* parent)
     connect(upright_, &QRadioButton::toggled, this, &PrintPanel::showSample);
 }
 
+// A group for each pair: options that only share a parent would lose their mark together.
+QLayout* PrintPanel::buildFeeds() {
+    upright_ = named("OpOrientacioAllo", new QRadioButton(u"Álló"_s));
+    sideways_ = named("OpOrientacioFekvo", new QRadioButton(u"Fekvő"_s));
+    upright_->setChecked(true);
+    auto* group = new QButtonGroup(this);
+    auto* row = new QHBoxLayout;
+    row->addStretch();
+    for (QRadioButton* option : {upright_, sideways_}) {
+        group->addButton(option);
+        row->addWidget(option);
+        row->addStretch();
+    }
+    return row;
+}
+
 QWidget* PrintPanel::buildDeviceChoice() {
-    auto* frame = new QWidget;
-    frame->setObjectName(QStringLiteral("Frame10"));
+    auto* frame = named("Frame10", new QWidget);
+    chosenDevice_ = named("opPrinter_0", new TwoLineOption(u"Kijelölt nyomtató használata"_s));
+    systemDevice_ = named("opPrinter_1", new TwoLineOption(u"Windows alapértelmezett nyomtató használata"_s));
+    chosenDevice_->setChecked(true);
+    auto* group = new QButtonGroup(this);
+    group->addButton(chosenDevice_);
+    group->addButton(systemDevice_);
+    printers_ = named("Combo2", new SteadyCombo);
+    printers_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    printNo_ = named("lbPrintNo", new QLabel);
+    printNo_->hide();
     auto* layout = new QVBoxLayout(frame);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(3);
-    chosenDevice_ = new QRadioButton(QStringLiteral("Kijelölt nyomtató használata"));
-    chosenDevice_->setObjectName(QStringLiteral("opPrinter_0"));
-    systemDevice_ = new QRadioButton(QStringLiteral("Windows alapértelmezett nyomtató használata"));
-    systemDevice_->setObjectName(QStringLiteral("opPrinter_1"));
-    chosenDevice_->setChecked(true);
-    printers_ = new SteadyCombo;
-    printers_->setObjectName(QStringLiteral("Combo2"));
-    printers_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    printNo_ = new QLabel;
-    printNo_->setObjectName(QStringLiteral("lbPrintNo"));
-    printNo_->hide();
     for (QWidget* widget : std::initializer_list<QWidget*>{chosenDevice_, printers_, systemDevice_, printNo_})
         layout->addWidget(widget);
 
@@ -106,7 +155,9 @@ QWidget* PrintPanel::buildDeviceChoice() {
 }
 
 void PrintPanel::showDeviceName() {
-    deviceName_->setText(QStringLiteral("Nyomtató: ") + (isSystemDefault() ? defaultName_ : printers_->currentText()));
+    const QString name = isSystemDefault() ? defaultName_ : printers_->currentText();
+    deviceName_->setText(u"Nyomtató: "_s + name);
+    deviceName_->setToolTip(name);
 }
 
 void PrintPanel::offerPrinters(const QStringList& printers, int systemDefault) {
@@ -138,35 +189,28 @@ void PrintPanel::storeDevice() {
 
 Feed PrintPanel::feed() const { return upright_->isChecked() ? Feed::upright : Feed::sideways; }
 
-void PrintPanel::showTab(int tab) {
-    tab_ = tab;
-    sideways_->setEnabled(tab != labelTab);
-    if (tab == labelTab) upright_->setChecked(true);
+void PrintPanel::showTab(const TabRow& tab) {
+    const bool hasSideways = tab.sidewaysSample != nullptr;
+    sideways_->setEnabled(hasSideways);
+    if (!hasSideways) upright_->setChecked(true);
+    sampleOf_ = &tab;
     showSample();
 }
 
 void PrintPanel::showSample() {
-    const char* name = samples[tab_][feed() == Feed::upright ? 0 : 1];
-    if (name == nullptr) return;
-    const QImage picture(folder_.file(QString::fromLatin1(name)));
-    if (picture.isNull()) {
-        sample_->setText(QStringLiteral("Hiányzó kép:\n") + QString::fromLatin1(name));
-        return;
-    }
-    const double ratio = devicePixelRatioF();
-    QPixmap scaled = QPixmap::fromImage(
-        picture.scaled(QSize(sampleSize - 2, sampleSize - 2) * ratio, Qt::KeepAspectRatio, Qt::SmoothTransformation));
-    scaled.setDevicePixelRatio(ratio);
-    sample_->setPixmap(scaled);
+    const char* name = feed() == Feed::upright ? sampleOf_->uprightSample : sampleOf_->sidewaysSample;
+    sample_->showFile(folder_, QString::fromLatin1(name));
 }
 
-void PrintPanel::showButton(bool batch) {
+void PrintPanel::showButton(bool batch, int clients) {
     print_->setVisible(!batch);
     batch_->setVisible(batch);
+    batch_->setNote(u"%1 ügyfél kijelölve"_s.arg(clients));
 }
 
 void PrintPanel::setButtonsEnabled(bool enabled) {
     print_->setEnabled(enabled);
     batch_->setEnabled(enabled);
-    if (enabled) (batch_->isHidden() ? print_ : batch_)->setFocus();
 }
+
+void PrintPanel::pressByKey() { (batch_->isHidden() ? print_ : batch_)->pressByKey(); }

@@ -1,13 +1,15 @@
 #pragma once
 
+#include "mainwindow/tab_rows.h"
 #include "printing/print_desk.h"
 
 #include <QGroupBox>
 
+class PrintButton;
 class QComboBox;
 class QLabel;
-class QPushButton;
 class QRadioButton;
+class SamplePicture;
 
 // Frame1: the two print buttons, of which one is visible at a time, the feed with its sample picture, and the choice of
 // the device, which is stored in Set.dat at once.
@@ -24,13 +26,14 @@ public:
     bool isSystemDefault() const;
 
     Feed feed() const;
-    // The form in view decides the sample picture; labels (tab 4) feed upright only.
-    void showTab(int tab);
+    // The form in view decides the sample picture; one without a sideways feed goes upright.
+    void showTab(const TabRow& tab);
 
-    // One form, or a batch for several clients with their number beside the button.
-    void showButton(bool batch);
-    // Enabled again, the button in view takes the focus back.
+    // One form, or a batch for `clients` of them, which the button names.
+    void showButton(bool batch, int clients = 0);
     void setButtonsEnabled(bool enabled);
+    // Presses the button in view.
+    void pressByKey();
 
 Q_SIGNALS:
     void deviceSelected();
@@ -38,22 +41,23 @@ Q_SIGNALS:
     void batchPressed();
 
 private:
+    QLayout* buildFeeds();
     QWidget* buildDeviceChoice();
     void showSample();
     void storeDevice();
     void showDeviceName();
 
     const ProgramFolder& folder_;
-    QPushButton* print_;
-    QPushButton* batch_;
+    PrintButton* print_;
+    PrintButton* batch_;
     QRadioButton* upright_;
     QRadioButton* sideways_;
-    QLabel* sample_;
+    SamplePicture* sample_;
     QRadioButton* chosenDevice_;
     QRadioButton* systemDevice_;
     QComboBox* printers_;
     QLabel* printNo_;
     QLabel* deviceName_; // where the next press prints
     QString defaultName_;
-    int tab_ = 0;
+    const TabRow* sampleOf_ = &tabRows[0]; // tab in view
 };

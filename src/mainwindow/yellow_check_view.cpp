@@ -4,6 +4,8 @@
 #include "records/record_file.h"
 #include "settings/general_settings.h"
 
+#include <QLineEdit>
+
 YellowCheckView::YellowCheckView(YellowCheckTab& tab, const FormContext& context)
     : FormView(context, {210, 105})
     , tab_(tab) {
@@ -39,6 +41,7 @@ YellowCheckView::YellowCheckView(YellowCheckTab& tab, const FormContext& context
               {tab.Text1[0], "Text1_0", {4.6, 55.9, 58.4, 3.9}},
               {tab.Text1[2], "Text1_2", {4.6, 59.8, 58.4, 3.9}},
               {tab.Text1[3], "Text1_3", {4.6, 67.8, 10.8, 4.2}}});
+    searchBox_ = findChild<QLineEdit*>(QStringLiteral("txNev"));
     connect(this, &FormView::edited, this, &YellowCheckView::runRule);
 }
 

@@ -49,7 +49,7 @@ protected:
 };
 
 TEST_P(WindowAmount, EachKeystrokeIsWordedOnce) {
-    auto& view = *qobject_cast<BoundView*>(find<QTabWidget>("SSTab1").currentWidget());
+    auto& view = *find<QTabWidget>("SSTab1").currentWidget()->findChild<BoundView*>();
     const QSignalSpy edits(&view, &BoundView::edited);
     box().lineEdit()->selectAll();
     const struct {

@@ -2,6 +2,8 @@
 
 #include "joined_texts.h"
 #include "mainwindow/frmTarlimo.h"
+#include "settings/check_layouts.h"
+#include "settings/general_settings.h"
 #include "support/recording_service.h"
 #include "support/scripted_prompts.h"
 #include "support/test_folder.h"
@@ -12,6 +14,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QStatusBar>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
@@ -36,9 +39,20 @@ protected:
         }
     };
 
+    // Lets a test act while a job is handed over.
+    struct WindowService : RecordingService {
+        std::function<void()> whileDelivering = [] {};
+        void deliver(const PrintJob& job, int printer) override {
+            whileDelivering();
+            RecordingService::deliver(job, printer);
+        }
+    };
+
     TestFolder files;
-    RecordingService service;
+    WindowService service;
     WindowPrompts prompts;
+    QString lastPdf;
+    QStringList opened; // documents
     std::unique_ptr<frmTarlimo> window;
 
     WindowTest() {
@@ -48,7 +62,8 @@ protected:
 
     // Starts the program on what lies in the folder; a second call is the next start.
     void open() {
-        const WindowServices services{service, prompts, [](const QString&) {}, [] { return QString(); }, {}};
+        const WindowServices services{
+            service, prompts, [this](const QString& path) { opened << path; }, [this] { return lastPdf; }, {}};
         window = std::make_unique<frmTarlimo>(files.folder(), services);
         window->show();
     }
@@ -73,6 +88,7 @@ protected:
         if (found == nullptr) throw std::runtime_error(std::string("no control ") + name);
         return *found;
     }
+    std::string status() const { return window->statusBar()->currentMessage().toStdString(); }
     // Reads a text box, combo, label or caption.
     std::string text(const char* name) const {
         const bool combo = window->findChild<QComboBox*>(QLatin1String(name)) != nullptr;

@@ -1,7 +1,5 @@
 #include "window_fixture.h"
 
-#include <QStatusBar>
-
 namespace {
 
 class WindowPrint : public WindowTest {
@@ -10,7 +8,6 @@ protected:
         openWith({clientNamed(QStringLiteral("Kiss Anna"), 1500), clientNamed(QStringLiteral("Nagy Béla"), 2500)});
         clickRow(0);
     }
-    std::string status() const { return window->statusBar()->currentMessage().toStdString(); }
     // True if a page of the last job holds the text.
     bool printed(std::size_t page, const char* text) const {
         return !placedTexts(service.delivered.back().job.pages.at(page)).filter(QString::fromUtf8(text)).isEmpty();

@@ -1,0 +1,39 @@
+#include "mainwindow/print_actions.h"
+
+#include "mainwindow/client_zone.h"
+#include "mainwindow/print_panel.h"
+#include "mainwindow/status_line.h"
+#include "mainwindow/work_in_progress.h"
+
+#include <QApplication>
+#include <QPointer>
+
+using namespace Qt::Literals::StringLiterals;
+
+void PrintActions::press(Press press, Tab tab) {
+    if (desk_.work.isBusy()) return;
+    const QPointer<QWidget> focus = QApplication::focusWidget();
+    desk_.panel.setButtonsEnabled(false);
+    const PrintOutcome outcome = print({tab, press, desk_.panel.feed()});
+    desk_.panel.setButtonsEnabled(true);
+    report(outcome);
+    if (focus) focus->setFocus(); // a disabled button has passed it on
+}
+
+PrintOutcome PrintActions::print(const PrintRequest& request) {
+    const WorkInProgress::Turn turn(desk_.work);
+    const auto progress = [this](int done, int pages) {
+        return desk_.work.step(done, pages, u"%1. lap / %2…"_s.arg(done).arg(pages), WorkInProgress::Cancel::possible);
+    };
+    return dispatchPrint({desk_.device, desk_.services.prompts, desk_.folder, true, progress}, desk_.tabs, request,
+                         desk_.clients.rows(), desk_.selected.record.client.Nev.trimmed());
+}
+
+void PrintActions::report(const PrintOutcome& outcome) {
+    if (outcome.pages == 0) return desk_.line.say(u"Nem készült nyomat. "_s + outcome.trouble);
+    const QString pdf = desk_.services.lastPdf();
+    const bool toPdf = outcome.device == desk_.device.Printers().last() && !pdf.isEmpty();
+    const QString where = toPdf ? pdf : outcome.device;
+    desk_.line.sayWithLink(u"%1 oldal kinyomtatva: %2. %3"_s.arg(outcome.pages).arg(where, outcome.trouble),
+                           toPdf ? pdf : QString());
+}

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "mainwindow/bound_view.h"
+#include "mainwindow/print_dispatch.h"
+#include "mainwindow/window_services.h"
+
+class ClientZone;
+class PrintPanel;
+class StatusLine;
+class WorkInProgress;
+
+// A press of a print button, from the questions ahead of it to the words about what came of it.
+class PrintActions : public QObject {
+    Q_OBJECT
+public:
+    // What the window has that a press needs; all of it outlives the actions.
+    struct Desk {
+        const ProgramFolder& folder;
+        const WindowServices& services;
+        PrintDevice& device;
+        const FormTabs& tabs;
+        const SelectedClient& selected;
+        ClientZone& clients;
+        PrintPanel& panel;
+        StatusLine& line;
+        WorkInProgress& work;
+    };
+    explicit PrintActions(const Desk& desk) : desk_(desk) {}
+
+    // Prints the form of `tab` once or for each selected client. The focus stays where it was.
+    void press(Press press, Tab tab);
+
+private:
+    PrintOutcome print(const PrintRequest& request);
+    void report(const PrintOutcome& outcome);
+
+    Desk desk_;
+};
