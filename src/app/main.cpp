@@ -21,7 +21,7 @@ int main(int argc, char** argv) {
     QApplication::setWindowIcon(QIcon(folder.file(QStringLiteral("tarlimo.png"))));
 
     QtPrintService printing(folder);
-    QtPrompts prompts;
+    QtPrompts prompts(folder.path());
     frmTarlimo window(
         folder, {printing, prompts, openDocument, [&printing] { return printing.lastPdf(); }, systemInformationTool()});
     onTerminationRequest(&window, [&window] { window.close(); });

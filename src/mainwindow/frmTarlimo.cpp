@@ -52,6 +52,7 @@ void frmTarlimo::buildLayout() {
     topLayout->setContentsMargins(0, 0, 0, 0);
     topLayout->addWidget(SSTab1_, 1);
     topLayout->addWidget(panel_);
+    splitter_->setObjectName(u"splitter"_s);
     splitter_->setContentsMargins(8, 6, 8, 0);
     splitter_->setChildrenCollapsible(false);
     splitter_->addWidget(top);

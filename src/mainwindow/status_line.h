@@ -21,7 +21,7 @@ public:
     // A bar of `done` in `total`, with a "Mégse" beside it that takes clicks while `cancellable`.
     void showProgress(qint64 done, qint64 total, bool cancellable);
     void hideProgress();
-    const QPushButton* cancelButton() const { return cancel_; }
+    QPushButton* cancelButton() const { return cancel_; }
 
 Q_SIGNALS:
     void fileWanted(const QString& path);

@@ -4,9 +4,12 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QFileIconProvider>
 #include <QFileInfo>
 #include <QGridLayout>
+#include <QLabel>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QPushButton>
 
 using namespace Qt::Literals::StringLiterals;
@@ -57,22 +60,60 @@ void nameInHungarian(QFileDialog& dialog, const QString& accept) {
     dialog.setLabelText(QFileDialog::Reject, u"Mégse"_s);
 }
 
-// Path that the user picked, empty on cancel.
-QString run(QFileDialog& dialog) {
-    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+// A dialog that is open is in front of the main window, and so must be its boxes.
+QWidget* window() {
+    QWidget* modal = QApplication::activeModalWidget();
+    return modal != nullptr ? modal : QApplication::activeWindow();
+}
+
+// The toolkit has no Hungarian word for a folder.
+class IconsWithWords : public QFileIconProvider {
+public:
+    QString type(const QFileInfo& info) const override {
+        if (info.isDir()) return u"Mappa"_s;
+        return info.suffix().isEmpty() ? u"Fájl"_s : info.suffix().toUpper() + u" fájl"_s;
+    }
+};
+
+// A box whose lines can be copied from.
+void tellWithDetails(const Message& message) {
+    QDialog box(window());
+    box.setWindowTitle(message.title);
+    auto* text = new QLabel(message.text);
+    text->setTextFormat(Qt::PlainText);
+    auto* details = new QPlainTextEdit(message.details);
+    details->setReadOnly(true);
+    details->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    details->setTabChangesFocus(true);
+    details->setMinimumSize(520, 180);
+    auto* ok = new QPushButton(u"OK"_s);
+    ok->setDefault(true);
+    QObject::connect(ok, &QPushButton::clicked, &box, &QDialog::accept);
+    auto* layout = new QVBoxLayout(&box);
+    layout->addWidget(text);
+    layout->addWidget(details, 1);
+    layout->addWidget(ok, 0, Qt::AlignRight);
+    ok->setFocus();
+    box.exec();
 }
 
 } // namespace
 
-QtPrompts::QtPrompts(QWidget* parent) : parent_(parent) {}
+QtPrompts::QtPrompts(const QString& folder) : folder_(folder), icons_(std::make_unique<IconsWithWords>()) {}
 
-QWidget* QtPrompts::window() const {
-    // A dialog that is open is in front of the main window, and so must be its boxes.
-    if (QWidget* modal = QApplication::activeModalWidget()) return modal;
-    return parent_ ? parent_.data() : QApplication::activeWindow();
+QtPrompts::~QtPrompts() = default;
+
+// Path that the user picked, empty on cancel.
+QString QtPrompts::run(QFileDialog& dialog) {
+    dialog.setIconProvider(icons_.get());
+    if (!folder_.isEmpty()) dialog.setDirectory(folder_);
+    if (dialog.exec() != QDialog::Accepted) return {};
+    folder_ = dialog.directory().path();
+    return dialog.selectedFiles().value(0);
 }
 
 void QtPrompts::tell(const Message& message) {
+    if (!message.details.isEmpty()) return tellWithDetails(message);
     QMessageBox box(window());
     fill(box, message);
     box.addButton(u"OK"_s, QMessageBox::AcceptRole);

@@ -2,17 +2,18 @@
 
 #include "prompts/prompts.h"
 
-#include <QPointer>
-#include <QWidget>
+#include <memory>
 
 class QFileDialog;
+class QFileIconProvider;
 
-// The prompts as modal boxes and dialogs of the toolkit, in front of a window. All words on them are set here: the
-// toolkit's Hungarian translation may not be installed.
+// The prompts as modal boxes and dialogs of the toolkit, in front of the active window. All words on them are set here:
+// the toolkit's Hungarian translation may not be installed.
 class QtPrompts : public Prompts {
 public:
-    // Without a parent, or once it is gone, a box stands in front of the active window.
-    explicit QtPrompts(QWidget* parent = nullptr);
+    // File dialogs open in `folder` first, then where the user was last.
+    explicit QtPrompts(const QString& folder = {});
+    ~QtPrompts() override;
 
     void tell(const Message& message) override;
     Answer ask(const Message& message, Answer preset) override;
@@ -22,7 +23,8 @@ public:
                                                const QString& summary) override;
 
 private:
-    QWidget* window() const;
+    QString run(QFileDialog& dialog);
 
-    QPointer<QWidget> parent_;
+    QString folder_;
+    std::unique_ptr<QFileIconProvider> icons_; // outlives the dialogs, which read folders in a thread of their own
 };

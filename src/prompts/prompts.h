@@ -16,6 +16,7 @@ struct Message {
     Icon icon = Icon::none;
     QString title;
     QString text;
+    QString details = {}; // lines under the text that can be scrolled and copied from; empty for none
 };
 
 enum class Answer { yes, no };

@@ -30,6 +30,7 @@ protected:
     void expectNobodyHeld() const {
         EXPECT_EQ(window->rekordszam(), 0);
         EXPECT_FALSE(enabled("cmdDel"));
+        EXPECT_TRUE(shown("cmdPrint") && !shown("cmdCsPrint")); // nothing is selected either
     }
 };
 
@@ -43,10 +44,15 @@ TEST_F(DatabaseWindow, DeleteNamesThePersonWhoGoes) {
         type("txNev", QString::fromUtf8(shownName));
         prompts.answers = {Answer::no};
         press("cmdDel");
+        EXPECT_EQ(prompts.presets.back(), Answer::no);
         EXPECT_EQ(joined(prompts.asked.back()), "Feladó törlése|Biztos mehet \nSZŰCS ERNŐ\n\ntörlése?");
     }
     EXPECT_EQ(rows(), "Kiss Anna|[Szűcs Ernő]|Nagy Béla");
     EXPECT_EQ(window->rekordszam(), 2);
+    clickRow(0, Qt::ControlModifier);
+    clickRow(1, Qt::ControlModifier);
+    clickRow(1, Qt::ControlModifier); // two rows selected, this one held
+    EXPECT_TRUE(shown("cmdCsPrint"));
     prompts.answers = {Answer::yes};
     press("cmdDel");
     EXPECT_EQ(rows(), "Kiss Anna|Nagy Béla");
@@ -67,14 +73,17 @@ TEST_F(DatabaseWindow, DeleteNamesThePersonWhoGoes) {
 }
 
 TEST_F(DatabaseWindow, WipeEmptiesFilesAndList) {
+    clickRow(0, Qt::ControlModifier);
+    EXPECT_TRUE(shown("cmdCsPrint"));
     prompts.answers = {Answer::no, Answer::yes};
     choose("mnuAdatbazisTorles");
     EXPECT_EQ(clientCount(files), 3);
-    EXPECT_EQ(window->rekordszam(), 2);
+    EXPECT_EQ(window->rekordszam(), 1);
     choose("mnuAdatbazisTorles");
     EXPECT_EQ(joined(prompts.asked[1]),
               "Adatbázis törlése|Biztos benne hogy TÖRLI \na teljes adatbázist?\n\nMehet a TÖRLÉS?");
     EXPECT_EQ(files.bytes(QStringLiteral("nevek1.dat")) + files.bytes(QStringLiteral("kozl3sor.dat")), QByteArray());
+    EXPECT_EQ(prompts.presets.back(), Answer::no);
     EXPECT_EQ(rows(), "");
     expectNobodyHeld();
 }
@@ -88,6 +97,7 @@ TEST_F(DatabaseWindow, ImportAppendsOrOverwritesAsTheTitleSays) {
     EXPECT_EQ(told(), finished);
 
     updateRecord<Set>(files, [](Set& set) { set.opHozzafuzes_1 = true; });
+    QTest::keyClick(&list(), Qt::Key_A, Qt::ControlModifier);
     importFile(csv("Ács Dóra;;;;;;900\r\nBodó Pál;;;;;;12 500 Ft\r\nCsík Rita;;;;;;sok\r\n"));
     EXPECT_EQ(rows(), "Ács Dóra|Bodó Pál|Csík Rita");
     EXPECT_EQ(prompts.fileTitles.back(), QStringLiteral("Importálás - a meglévő adatbázis FELÜLÍRÁSÁVAL"));

@@ -78,10 +78,36 @@ TEST_F(WindowList, DeleteTakesRowsOutOfTheListAlone) {
     QTest::keyClick(&list(), Qt::Key_Delete);
     EXPECT_EQ(rows(), "Nagy Béla");
     EXPECT_EQ(text("lbKijelolve"), "");
+    EXPECT_EQ(status(), "3 sor levéve a listáról, az adatbázisban megmaradtak");
+    EXPECT_EQ(text("lbUgyfelekSzama"), "4 ügyfél");
     EXPECT_EQ(window->rekordszam(), 4);
     EXPECT_EQ(files.bytes(QStringLiteral("nevek1.dat")), before);
     press("cmdBeolvas");
     EXPECT_EQ(rows(), "Kiss Anna|Nagy Béla|Kiss Éva|Ács Dóra");
+}
+
+TEST_F(WindowList, KeysReachListSearchAmountAndReload) {
+    openWithFour();
+    goTo(6);
+    const auto key = [&](Qt::Key code) { QTest::keyClick(window.get(), code); };
+    key(Qt::Key_F2);
+    EXPECT_EQ(window->focusWidget(), &find("RtxOsszeg"));
+    key(Qt::Key_F3);
+    EXPECT_EQ(window->focusWidget(), &find("txNev"));
+    EXPECT_TRUE(shown("txNev") && ticked("Check1"));
+    type("txNev", QStringLiteral("kiss"));
+    EXPECT_EQ(rows(), "Kiss Anna|Kiss Éva");
+    QTest::keyClick(&find("txNev"), Qt::Key_Down);
+    EXPECT_EQ(window->focusWidget(), &list());
+    EXPECT_EQ(rows(), "[Kiss Anna]");
+    EXPECT_EQ(text("Text1_1"), "Kiss Anna");
+    key(Qt::Key_F5);
+    EXPECT_EQ(rows(2), "1|2|3|4");
+    find("txCim1").setFocus();
+    key(Qt::Key_F4);
+    EXPECT_EQ(window->focusWidget(), &list());
+    key(Qt::Key_F1);
+    EXPECT_TRUE(opened.value(0).endsWith(QStringLiteral("/Csekk_adat_Import.htm")));
 }
 
 TEST_F(WindowList, RecordsBeyondTheHeldNumberCannotBePicked) {

@@ -1,4 +1,7 @@
+#include "mainwindow/status_line.h"
 #include "window_fixture.h"
+
+#include <QPushButton>
 
 namespace {
 
@@ -52,6 +55,112 @@ TEST_F(WindowPrint, PrintDialogHoldsTheButtonsAndSparesTheNotice) {
     EXPECT_EQ(service.delivered.size(), 1U);
     EXPECT_TRUE(enabled("cmdCsPrint"));
     EXPECT_EQ(text("Kozlemeny1") + text("txtJogcim1"), "köszönjüktagdíj");
+}
+
+TEST_F(WindowPrint, OnePressIsOneJob) {
+    const auto jobs = [&] { return std::exchange(service.delivered, {}).size(); };
+    auto& button = find<QPushButton>("cmdPrint");
+    const std::function<void()> presses[] = {
+        [&] { QTest::mouseClick(&button, Qt::LeftButton); },
+        [&] { // the events of a double click
+            QTest::mouseClick(&button, Qt::LeftButton);
+            QTest::mouseDClick(&button, Qt::LeftButton);
+            QTest::mouseRelease(&button, Qt::LeftButton);
+        },
+        [&] { QTest::keyClick(window.get(), Qt::Key_P, Qt::ControlModifier); },
+        [&] { QTest::keyClick(window.get(), Qt::Key_P, Qt::ControlModifier); }, // at once again: no job
+    };
+    const std::size_t expected[] = {1, 1, 1, 0};
+    for (std::size_t i = 0; i < std::size(presses); ++i) {
+        presses[i]();
+        EXPECT_EQ(jobs(), expected[i]) << i;
+    }
+    // What comes in while a job is handed over is dropped, whoever it was meant for.
+    service.whileDelivering = [&] {
+        const QPointF middle = button.rect().center();
+        const QPointF global = button.mapToGlobal(middle);
+        for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease})
+            QCoreApplication::postEvent(&button,
+                                        new QMouseEvent(type, middle, global, Qt::LeftButton, Qt::LeftButton, {}));
+        QCoreApplication::postEvent(&list(), new QKeyEvent(QEvent::KeyPress, Qt::Key_Down, {}));
+    };
+    press("cmdPrint");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(jobs(), 1U);
+    EXPECT_EQ(window->rekordszam(), 1);
+}
+
+TEST_F(WindowPrint, AfterAPrintTheKeysGoWhereTheyWent) {
+    for (const char* name : {"ListView1", "txtJogcim1", "cmdPrint"}) {
+        find(name).setFocus();
+        press("cmdPrint");
+        EXPECT_EQ(window->focusWidget(), &find(name)) << name;
+        QTest::keyClick(window->focusWidget(), Qt::Key_Down);
+        EXPECT_FALSE(set().opPrinter_1);
+    }
+    EXPECT_EQ(service.delivered.size(), 3U);
+}
+
+TEST_F(WindowPrint, ASelectedOptionStaysSelected) {
+    for (const char* option : {"OpOrientacioAllo", "OpOrientacioFekvo", "opPrinter_0", "opPrinter_1"})
+        for (int clicks = 0; clicks < 2; ++clicks) {
+            press(option);
+            EXPECT_TRUE(ticked(option)) << option;
+        }
+    expectTicked("OpOrientacioFekvo opPrinter_1", true);
+    expectTicked("OpOrientacioAllo opPrinter_0", false);
+}
+
+TEST_F(WindowPrint, StatusLineOpensThePdfAndForgetsItForTheNextClient) {
+    lastPdf = QStringLiteral("/mappa/nyomtatas/2026 <1>.pdf");
+    press("opPrinter_1"); // the PDF device is the system's default
+    press("cmdPrint");
+    EXPECT_EQ(status(), "1 oldal kinyomtatva: /mappa/nyomtatas/2026 <1>.pdf. ");
+    auto& shownText = find<QLabel>("lbAllapot");
+    EXPECT_TRUE(shownText.text().contains(u"href=\"/mappa/nyomtatas/2026 &lt;1&gt;.pdf\""));
+    Q_EMIT shownText.linkActivated(lastPdf);
+    EXPECT_EQ(opened, QStringList(lastPdf));
+    clickRow(1);
+    EXPECT_EQ(status(), "");
+    type("txOsszeg", QStringLiteral("0"));
+    press("cmdPrint");
+    EXPECT_EQ(status(), "Nem készült nyomat. Az összeg üres vagy nulla.");
+}
+
+// Half a second of nothing has to pass before a bar is shown at all.
+TEST_F(WindowPrint, LongWorkShowsItselfAndOnlyItsCancelIsServed) {
+    QStatusBar owner;
+    StatusLine line;
+    line.show();
+    WorkInProgress work(owner, line);
+    const auto runUntilShown = [&](WorkInProgress::Cancel cancel) {
+        bool goesOn = true;
+        while (goesOn && !QApplication::overrideCursor())
+            goesOn = work.step(1, 2, QStringLiteral("1. lap / 2…"), cancel);
+        EXPECT_EQ(line.currentMessage(), QStringLiteral("1. lap / 2…"));
+        return goesOn;
+    };
+    const std::function<void()> cancels[] = {
+        [&] { QTest::mouseClick(line.cancelButton(), Qt::LeftButton); },
+        [&] { QTest::keyClick(&find("txNev"), Qt::Key_Escape); },
+    };
+    for (const auto& cancel : cancels) {
+        const WorkInProgress::Turn turn(work);
+        EXPECT_TRUE(runUntilShown(WorkInProgress::Cancel::possible));
+        press("cmdPrint");
+        QTest::keyClick(&find("txNev"), Qt::Key_X);
+        EXPECT_TRUE(work.step(1, 2, {}, WorkInProgress::Cancel::possible));
+        cancel();
+        EXPECT_FALSE(work.step(1, 2, {}, WorkInProgress::Cancel::possible));
+    }
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+    const WorkInProgress::Turn turn(work);
+    runUntilShown(WorkInProgress::Cancel::impossible);
+    EXPECT_FALSE(line.cancelButton()->isVisible());
+    QTest::keyClick(&find("txNev"), Qt::Key_Escape);
+    EXPECT_TRUE(work.step(1, 2, {}, WorkInProgress::Cancel::impossible));
+    EXPECT_TRUE(service.delivered.empty());
+    EXPECT_EQ(text("txNev"), "Kiss Anna");
 }
 
 TEST_F(WindowPrint, FailuresAreToldAndTheNextPressWorks) {

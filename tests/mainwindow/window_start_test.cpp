@@ -4,6 +4,7 @@
 #include "window_fixture.h"
 
 #include <QDir>
+#include <QSplitter>
 
 namespace {
 
@@ -146,6 +147,24 @@ TEST_F(WindowStart, OwnWindowsEmptyNoticeAndTitlesOnReturn) {
         EXPECT_EQ(text("Kozlemeny2"), "szöveg");
         EXPECT_EQ(find<QComboBox>("Kozlemeny1").count(), entries + 1); // an empty one comes first
     }
+}
+
+TEST_F(WindowStart, TheWindowComesBackAsItWasArranged) {
+    open();
+    list().setColumnWidth(0, 222);
+    auto& splitter = find<QSplitter>("splitter");
+    splitter.setSizes({400, 250});
+    window->resize(900, 700);
+    const QList<int> sizes = splitter.sizes();
+    window->close();
+    open();
+    EXPECT_EQ(window->size(), QSize(900, 700));
+    EXPECT_EQ(list().columnWidth(0), 222);
+    EXPECT_EQ(find<QSplitter>("splitter").sizes(), sizes);
+    window.reset();
+    files.setBytes(QStringLiteral("ablak.ini"), QByteArray(200, '\xff'));
+    open();
+    EXPECT_EQ(list().columnWidth(0), 353);
 }
 
 } // namespace

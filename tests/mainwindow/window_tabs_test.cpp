@@ -72,6 +72,20 @@ TEST_F(WindowTabs, AClickOnTheTabShowsTheSenderAsStored) {
     }
 }
 
+TEST_F(WindowTabs, TheTabInViewFollowsTheSetupDialog) {
+    openNamed({u"Anna"});
+    goTo(6);
+    clickRow(0);
+    type("RlbNev", QStringLiteral("kézzel"));
+    choose("mnuSetup", [](const QWidget&) {});
+    EXPECT_EQ(text("RlbNev"), "kézzel"); // nothing has changed there
+    choose("mnuSetup", [this](const QWidget&) {
+        updateRecord<SetRcsekk>(files, [](SetRcsekk& set) { set.txRcsekkNev.set(u"Új Kft."); });
+    });
+    EXPECT_EQ(text("RlbNev"), "Új Kft.");
+    EXPECT_EQ(text("RtxNev").rfind("Anna", 0), 0U);
+}
+
 TEST_F(WindowTabs, TwoFormsTurnTheirPage) {
     openWith({clientNamed(QStringLiteral("Anna"), 1500)});
     const struct {

@@ -3,9 +3,11 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QFileDialog>
+#include <QFileIconProvider>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTemporaryDir>
@@ -76,6 +78,19 @@ TEST(QtPrompts, aBoxShowsWhatItWasGiven) {
     }
 }
 
+TEST(QtPrompts, detailsCanBeCopiedFromTheirBox) {
+    QtPrompts prompts;
+    onNext<QDialog>([](QDialog& dialog) {
+        auto* details = dialog.findChild<QPlainTextEdit*>();
+        ASSERT_NE(details, nullptr);
+        EXPECT_EQ(details->toPlainText(), u"1. sor\n2. sor"_s);
+        EXPECT_TRUE(details->isReadOnly() && (details->textInteractionFlags() & Qt::TextSelectableByKeyboard));
+        press(*button(dialog, u"OK"_s), Qt::Key_Return);
+        EXPECT_FALSE(dialog.isVisible());
+    });
+    prompts.tell({Icon::information, u"Cím"_s, u"Két sor"_s, u"1. sor\n2. sor"_s});
+}
+
 TEST(QtPrompts, onlyThePressedYesIsAYes) {
     QtPrompts prompts;
     const auto yes = [](QMessageBox& box) { button(box, u"Igen"_s)->click(); };
@@ -131,7 +146,7 @@ TEST(QtPrompts, thePrintDialogAnswersWithDeviceAndCopies) {
 TEST(QtPrompts, fileDialogsAnswerWithThePathOrNothing) {
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"minta.csv"_s);
-    QtPrompts prompts;
+    QtPrompts prompts(folder.path());
     // The name as typed, then Enter on the accepting button.
     const auto pick = [](const QString& name, const QString& accept) {
         return [=](QFileDialog& dialog) {
@@ -142,7 +157,11 @@ TEST(QtPrompts, fileDialogsAnswerWithThePathOrNothing) {
             button(dialog, accept)->click();
         };
     };
-    onNext<QFileDialog>([](QFileDialog& dialog) { press(dialog, Qt::Key_Escape); });
+    onNext<QFileDialog>([&](QFileDialog& dialog) {
+        EXPECT_EQ(dialog.directory().path(), folder.path());
+        EXPECT_EQ(dialog.iconProvider()->type(QFileInfo(folder.path())), u"Mappa"_s);
+        press(dialog, Qt::Key_Escape);
+    });
     EXPECT_EQ(prompts.openFile(u"Cím"_s, u"*.csv"_s), QString());
 
     onNext<QFileDialog>(pick(folder.filePath(u"minta"_s), u"Mentés"_s));
