@@ -1,12 +1,9 @@
 #include "mainwindow/pink_check_rules.h"
 
 #include "mainwindow/tab_words.h"
+#include "printing/form_text.h"
 
 namespace {
-
-struct Party {
-    QString name, settlement, street, postcode;
-};
 
 // On the front the sender's address is one line, on the back it is in parts.
 void setSender(PinkCheckTab& tab, const Party& party, const QString& addressLine) {
@@ -23,10 +20,6 @@ void setAddressee(PinkCheckTab& tab, const Party& party) {
     tab.RlbHelys = tab.txtHelys = party.settlement;
     tab.RlbCim = tab.txtCim = party.street;
     tab.RlbIrsz = tab.txtIrsz = party.postcode;
-}
-
-QString addressLine(const Party& party) {
-    return party.postcode + u' ' + party.settlement + QStringLiteral(", ") + party.street;
 }
 
 } // namespace
@@ -53,18 +46,18 @@ void opAllando_Click(PinkCheckTab& tab, const SetRcsekk& set) {
 }
 
 void reload(PinkCheckTab& tab, const SetRcsekk& set) {
-    const Party fixed{set.txRcsekkNev.trimmed(), set.txRcsekkHelyseg.trimmed(), set.txRcsekkCim.trimmed(),
-                      set.txRcsekkIrszam.stored()};
+    Party fixed = fixedParty(set);
+    fixed.postcode = set.txRcsekkIrszam.stored();
     if (tab.opAllando == FixedParty::addressee)
         setAddressee(tab, fixed);
     else
-        setSender(tab, fixed, addressLine(fixed));
+        setSender(tab, fixed, addressLine(fixed, QStringLiteral(", ")));
 }
 
 void showClient(PinkCheckTab& tab, const ClientRec& client) {
     const Party party{client.Nev.stored(), client.Helyseg.trimmed(), client.Cim.stored(), client.Irsz.stored()};
     if (tab.opAllando == FixedParty::addressee)
-        setSender(tab, party, addressLine(party));
+        setSender(tab, party, addressLine(party, QStringLiteral(", ")));
     else
         setAddressee(tab, party);
 }

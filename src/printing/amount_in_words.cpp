@@ -6,6 +6,8 @@
 #include <array>
 #include <limits>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 using Digits = std::array<QStringView, 10>;
@@ -18,12 +20,12 @@ QString units(std::size_t digit) { return unitWords[digit].toString(); }
 
 // Tens change their form only in front of units: "tíz" but "tizenegy", "húsz" but "huszonegy".
 QString tens(std::size_t digit, std::size_t unit) {
-    if (unit != 0 && digit == 1) return QStringLiteral("tizen");
-    if (unit != 0 && digit == 2) return QStringLiteral("huszon");
+    if (unit != 0 && digit == 1) return u"tizen"_s;
+    if (unit != 0 && digit == 2) return u"huszon"_s;
     return roundTens[digit].toString();
 }
 
-QString hundreds(std::size_t digit) { return digit == 0 ? QString() : units(digit) + QStringLiteral("száz"); }
+QString hundreds(std::size_t digit) { return digit == 0 ? QString() : units(digit) + u"száz"_s; }
 
 // What follows the thousands in the amount: "húszezer" when it is round, "húszezer-" when hundreds to units follow.
 enum class Tail { zeros, more };
@@ -33,9 +35,9 @@ QString thousandsGroup(std::size_t group, Tail tail) {
     const std::size_t ten = group / 10 % 10;
     const std::size_t unit = group % 10;
     const QString words = hundreds(hundred) + tens(ten, unit);
-    if (unit != 0) return words + units(unit) + QStringLiteral("ezer-");
-    if (ten != 0) return words + (tail == Tail::zeros ? QStringLiteral("ezer") : QStringLiteral("ezer-"));
-    return hundred != 0 ? words + QStringLiteral("ezer") : words;
+    if (unit != 0) return words + units(unit) + u"ezer-"_s;
+    if (ten != 0) return words + (tail == Tail::zeros ? u"ezer"_s : u"ezer-"_s);
+    return hundred != 0 ? words + u"ezer"_s : words;
 }
 
 // All groups of digits in words, by their value, built once and shared by all amounts: the words of an amount are at
@@ -52,7 +54,7 @@ struct GroupTables {
             for (const Tail tail : {Tail::zeros, Tail::more})
                 thousands[static_cast<std::size_t>(tail)][group] = thousandsGroup(group, tail);
             if (group > 0 && group < millions.size())
-                millions[group] = tens(group / 10, unit) + units(unit) + QStringLiteral("millió");
+                millions[group] = tens(group / 10, unit) + units(unit) + u"millió"_s;
         }
     }
 };
@@ -66,7 +68,7 @@ QString joined(const QString& head, const QString& tail) {
 
 WordLines words(std::int64_t amount, std::int64_t limit, const QString& limitText) {
     static const GroupTables tables;
-    static const QString limitCaption = QStringLiteral("MAX BEÍRHATÓ ÖSSZEG:");
+    static const QString limitCaption = u"MAX BEÍRHATÓ ÖSSZEG:"_s;
     if (amount > limit) return {limitCaption, limitText};
     if (amount <= 0) return {};
     const auto millions = static_cast<std::size_t>(amount / 1000000);
@@ -78,9 +80,9 @@ WordLines words(std::int64_t amount, std::int64_t limit, const QString& limitTex
     return {joined(tables.millions[millions], thousandsText), tables.lower[rest]};
 }
 
-WordLines sevenDigitWords(std::int64_t amount) { return words(amount, 9999999, QStringLiteral("9.999.999")); }
+WordLines sevenDigitWords(std::int64_t amount) { return words(amount, 9999999, u"9.999.999"_s); }
 
-QString star() { return QStringLiteral("*"); }
+QString star() { return u"*"_s; }
 
 // The whole part of a typed number, and how much of a forint lies behind the point.
 struct TypedNumber {
@@ -110,7 +112,7 @@ struct TypedNumber {
 
 } // namespace
 
-WordLines azaz_rutin(QStringView amount) { return words(amountOf(amount), 99999999, QStringLiteral("99.999.999")); }
+WordLines azaz_rutin(QStringView amount) { return words(amountOf(amount), 99999999, u"99.999.999"_s); }
 
 WordLines Razaz_rutin(QStringView amount) { return sevenDigitWords(amountOf(amount)); }
 
@@ -153,6 +155,6 @@ WordRows rowsOfTab(const QString& upper, const QString& lower) {
     return {star() + upper, lower + star()};
 }
 
-QString starred(const QString& amount) { return QStringLiteral("***") + amount + QStringLiteral("***"); }
+QString starred(const QString& amount) { return u"***"_s + amount + u"***"_s; }
 
 QString withCapital(const QString& text) { return text.left(1).toUpper() + text.mid(1); }

@@ -26,6 +26,9 @@ WordLines azaz1(std::int32_t azazOsszeg);
 // larger than the type is its largest value.
 std::int64_t amountOf(QStringView typed);
 
+// Width of the rows of words on both checks, on the tab and in a batch.
+constexpr float wordRowLimitMm = 45;
+
 // Width in mm of `text` in a font from a settings record (name padded or not); 0 if it cannot be measured (no such
 // font).
 float measuredWidth(PrintDevice& device, const QString& fontName, int size, const QString& text);

@@ -1,148 +1,135 @@
 #pragma once
 
 #include "printing/pen.h"
-#include "records/stored_types.h"
+#include "printing/position.h"
 
-#include <array>
-#include <cstddef>
+#include <initializer_list>
 
 // A form is a table: rows of constant data, each one step of the pen, with the text as a member of the form's page
-// struct and the position as members of its settings record. printItems walks any such table for any feed. A form that
+// struct and the position as members of its settings record. printItems walks any such table for any run. A form that
 // needs more than these rows is better written as a function.
 
-// How a routine runs: how the form goes through the printer, and whether its data come from the tab or from clients.
-enum class FormRun { upright, uprightBatch, sideways, sidewaysBatch };
-
-constexpr bool isUpright(FormRun feed) { return feed == FormRun::upright || feed == FormRun::uprightBatch; }
-
-// Whole mm that a feed adds to a stored position.
-class Offset {
-public:
-    constexpr Offset() = default;
-    constexpr Offset(int upright, int sideways) : mm_{upright, upright, sideways, sideways} {}
-    constexpr Offset(int upright, int uprightBatch, int sideways, int sidewaysBatch)
-        : mm_{upright, uprightBatch, sideways, sidewaysBatch} {}
-    constexpr int in(FormRun feed) const { return mm_[static_cast<std::size_t>(feed)]; }
-
-private:
-    std::array<int, 4> mm_{};
+// What the rows depend on beside page and record.
+struct PrintOptions {
+    Run run = Run::upright;
+    std::array<bool, 8> flags{}; // which groups of items print; a form names them by an enum
+    int extraX = 0;              // mm added to every x
 };
 
-// What the rows depend on beside page and record.
-struct Sheet {
-    FormRun feed = FormRun::upright;
-    std::array<bool, 8> flags{}; // which groups of items print
-    int extraX = 0;              // mm added to every x
+// The size of a font: a field of the record, or points that no setting changes.
+template<class Rec>
+class FontSize {
+public:
+    constexpr FontSize() = default;
+    constexpr FontSize(I16 Rec::*field) : field_(field) {} // NOLINT: a table names the field
+    constexpr FontSize(int points) : points_(points) {}    // NOLINT
+    int in(const Rec& rec) const { return field_ == nullptr ? points_ : int(rec.*field_); }
+
+private:
+    I16 Rec::*field_ = nullptr;
+    int points_ = 0;
 };
 
 template<class Page, class Rec>
 class Item {
 public:
     using TextOf = QString Page::*;
-    using Field = Cur Rec::*;
-    using FontField = Text<25> Rec::*;
-    using SizeField = I16 Rec::*;
+    using At = Position<Rec>;
+    using FontName = Text<25> Rec::*;
 
-    static constexpr Item font(FontField name, SizeField size) { return font(name, size, size); }
-    static constexpr Item font(FontField name, SizeField size, SizeField sizeInUprightBatch) {
+    static constexpr Item font(FontName name, FontSize<Rec> size) {
         Item item(Step::font);
         item.fontName_ = name;
-        item.size_ = size;
-        item.sizeInUprightBatch_ = sizeInUprightBatch;
+        item.fontSize_ = size;
         return item;
     }
-    static constexpr Item hold(TextOf text, Field x, Offset dx) { return {Step::hold, text, x, dx}; }
-    static constexpr Item hold(TextOf text, Field x, Offset dx, Field y, Offset dy) {
+    static constexpr Item hold(TextOf text, At x, Offset dx) { return {Step::hold, text, x, dx}; }
+    static constexpr Item hold(TextOf text, At x, Offset dx, At y, Offset dy) {
         return hold(text, x, dx).onLine(y, dy);
     }
-    static constexpr Item text(TextOf text, Field x, Offset dx, Field y, Offset dy) {
-        return Item(Step::text, text, x, dx).onLine(y, dy);
+    static constexpr Item text(TextOf text, At x, Offset dx, At y, Offset dy) {
+        return next(text, x, dx).onLine(y, dy);
     }
-    static constexpr Item next(TextOf text, Field x, Offset dx) { return {Step::next, text, x, dx}; }
+    static constexpr Item next(TextOf text, At x, Offset dx) { return {Step::line, text, x, dx}; }
+    // An X in a box of the form.
+    static constexpr Item tick(bool Page::*ticked, At x, Offset dx, At y, Offset dy) {
+        return text(nullptr, x, dx, y, dy).when(ticked);
+    }
+    static constexpr Item moveTo(At y, Offset dy) { return Item(Step::move).onLine(y, dy); }
     static constexpr Item skip() { return Item(Step::skip); }
 
-    // Left out while flag `number` of the sheet is off...
-    constexpr Item flag(int number) const {
-        Item item = *this;
-        item.flag_ = number;
-        return item;
+    // A font without a weight keeps the one in force.
+    constexpr Item weight(Weight weight) const { return with(&Item::weight_, weight); }
+
+    // A row prints where all its conditions hold: a flag of the options is so, a member of the page is true, the run is
+    // one of these.
+    constexpr Item flag(int number, bool on = true) const {
+        return with(&Item::flag_, number).with(&Item::flagOn_, on);
     }
-    // ...with an empty line in its place, at the height where the pen stands,
-    constexpr Item orSkipLine() const {
+    constexpr Item when(bool Page::*condition) const { return with(&Item::condition_, condition); }
+    constexpr Item only(std::initializer_list<Run> runs) const {
         Item item = *this;
-        item.skipsLine_ = true;
-        return item;
-    }
-    // in one feed at the row's own height.
-    constexpr Item orSkipLine(FormRun atOwnHeight) const {
-        Item item = orSkipLine();
-        item.skipsAtOwnHeight_ = atOwnHeight;
-        return item;
-    }
-    // Left out unless this member of the page is true.
-    constexpr Item when(bool Page::*condition) const {
-        Item item = *this;
-        item.condition_ = condition;
+        item.runs_ = {};
+        for (const Run run : runs)
+            item.runs_[static_cast<std::size_t>(run)] = true;
         return item;
     }
 
-    void print(Pen& pen, const Page& page, const Rec& rec, const Sheet& sheet) const {
-        if (condition_ != nullptr && !(page.*condition_)) return;
-        if (flag_ >= 0 && !sheet.flags[static_cast<std::size_t>(flag_)]) return printSkipped(pen, rec, sheet);
+    void print(Pen& pen, const Page& page, const Rec& rec, const PrintOptions& options) const {
+        if (!isWanted(page, options)) return;
+        const float x = x_.in(rec, dx_.in(options.run) + options.extraX);
+        if (y_.isSet()) pen.MoveToLine(y_.in(rec, dy_.in(options.run)));
         switch (step_) {
         case Step::font:
-            return pen.SetFont((rec.*fontName_).stored(),
-                               rec.*(sheet.feed == FormRun::uprightBatch ? sizeInUprightBatch_ : size_));
+            return pen.SetFont((rec.*fontName_).stored(), fontSize_.in(rec), weight_);
         case Step::hold:
-            return pen.PlaceHold(x(rec, sheet), y_ == nullptr ? std::optional<float>() : y(rec, sheet), page.*text_);
-        case Step::text:
-            return pen.PlaceText(x(rec, sheet), y(rec, sheet), page.*text_);
-        case Step::next:
-            return pen.PlaceNext(x(rec, sheet), page.*text_);
+            return pen.PlaceHold(x, {}, textOn(page));
+        case Step::line:
+            return pen.PlaceNext(x, textOn(page));
         case Step::skip:
             return pen.SkipLine();
+        case Step::move:
+            return;
         }
     }
 
 private:
-    enum class Step { font, hold, text, next, skip };
+    enum class Step { font, hold, line, move, skip };
 
     constexpr explicit Item(Step step) : step_(step) {}
-    constexpr Item(Step step, TextOf text, Field x, Offset dx) : step_(step), text_(text), x_(x), dx_(dx) {}
+    constexpr Item(Step step, TextOf text, At x, Offset dx) : step_(step), text_(text), x_(x), dx_(dx) {}
 
-    constexpr Item onLine(Field y, Offset dy) const {
+    template<class Value>
+    constexpr Item with(Value Item::*member, std::type_identity_t<Value> value) const {
         Item item = *this;
-        item.y_ = y;
-        item.dy_ = dy;
+        item.*member = value;
         return item;
     }
+    constexpr Item onLine(At y, Offset dy) const { return with(&Item::y_, y).with(&Item::dy_, dy); }
 
-    void printSkipped(Pen& pen, const Rec& rec, const Sheet& sheet) const {
-        if (!skipsLine_) return;
-        if (skipsAtOwnHeight_ == sheet.feed) pen.MoveToLine(y(rec, sheet));
-        pen.SkipLine();
+    bool isWanted(const Page& page, const PrintOptions& options) const {
+        if (condition_ != nullptr && !(page.*condition_)) return false;
+        if (flag_ >= 0 && options.flags[static_cast<std::size_t>(flag_)] != flagOn_) return false;
+        return runs_[static_cast<std::size_t>(options.run)];
     }
-
-    // The sum is exact; it leaves fixed point once, here.
-    float x(const Rec& rec, const Sheet& sheet) const {
-        return (rec.*x_).plusWhole(dx_.in(sheet.feed) + sheet.extraX).toFloat();
-    }
-    float y(const Rec& rec, const Sheet& sheet) const { return (rec.*y_).plusWhole(dy_.in(sheet.feed)).toFloat(); }
+    QString textOn(const Page& page) const { return text_ == nullptr ? QString(u'X') : page.*text_; }
 
     Step step_;
-    TextOf text_ = nullptr;
-    Field x_ = nullptr, y_ = nullptr;
+    TextOf text_ = nullptr; // none: an X
+    At x_, y_;              // a row without y stands where the pen is
     Offset dx_, dy_;
-    FontField fontName_ = nullptr;
-    SizeField size_ = nullptr, sizeInUprightBatch_ = nullptr;
+    FontName fontName_ = nullptr;
+    FontSize<Rec> fontSize_;
+    std::optional<Weight> weight_ = {};
     int flag_ = -1; // none
-    bool skipsLine_ = false;
-    std::optional<FormRun> skipsAtOwnHeight_ = {};
+    bool flagOn_ = true;
     bool Page::*condition_ = nullptr;
+    std::array<bool, 4> runs_{true, true, true, true};
 };
 
 template<class Page, class Rec, std::size_t n>
-void printItems(Pen& pen, const Item<Page, Rec> (&items)[n], const Page& page, const Rec& rec, const Sheet& sheet) {
+void printItems(Pen& pen, const Item<Page, Rec> (&items)[n], const Page& page, const Rec& rec,
+                const PrintOptions& options) {
     for (const auto& item : items)
-        item.print(pen, page, rec, sheet);
+        item.print(pen, page, rec, options);
 }

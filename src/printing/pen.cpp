@@ -2,6 +2,8 @@
 
 #include "prompts/titles.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 // Runs one step of the job. The only place where a device error is caught.
 template<class Step>
 void Pen::attempt(Step step) {
@@ -13,14 +15,15 @@ void Pen::attempt(Step step) {
     }
 }
 
-Pen::Pen(const PrintDesk& desk, FailureWay way, const QString& jobTitle)
+Pen::Pen(const PrintDesk& desk, FailureWay way, const QString& jobTitle, FirstPage page)
     : device_(desk.device)
-    , prompts_(&desk.prompts)
+    , desk_(&desk)
     , way_(way) {
+    device_.startJob(page);
     device_.setTitle(jobTitle);
 }
 
-Pen::Pen(PrintDevice& device) : device_(device), prompts_(nullptr), way_(FailureWay::passOver) {}
+Pen::Pen(PrintDevice& device) : device_(device), desk_(nullptr), way_(FailureWay::passOver) {}
 
 void Pen::StartFromA4() {
     attempt([&] { device_.setSizeTwips(11910, 16790); });
@@ -36,8 +39,8 @@ void Pen::SelectPrinter(const Set& set, TrackDefault track) {
 
 void Pen::ShowPrinter(const QString& summary) {
     attempt([&] {
-        const auto choice = prompts_->choosePrinter(device_.Printers(), device_.currentPrinter(), summary);
-        if (!choice) throw DeviceError(32755, QStringLiteral("A nyomtatás megszakítva."));
+        const auto choice = desk_->prompts.choosePrinter(device_.Printers(), device_.currentPrinter(), summary);
+        if (!choice) throw DeviceError(32755, u"A nyomtatás megszakítva."_s);
         device_.useForThisJob(choice->printer, choice->copies);
     });
 }
@@ -56,14 +59,11 @@ void Pen::OpenForm(const PageRequest& request) {
     });
 }
 
-void Pen::SetFont(const QString& name, int size) {
-    attempt([&] { device_.setFontName(trimBlanks(name).toString()); });
-    attempt([&] { device_.setFontSize(static_cast<float>(size)); });
-}
-
-void Pen::SetFont(const QString& name, int size, Weight weight) {
-    SetFont(name, size);
-    attempt([&] { device_.setFontBold(weight == Weight::bold); });
+void Pen::SetFont(const QString& name, int size, std::optional<Weight> weight) {
+    wanted_ = {trimBlanks(name).toString(), static_cast<float>(size)};
+    attempt([&] { device_.setFontName(wanted_.name); });
+    attempt([&] { device_.setFontSize(wanted_.size); });
+    if (weight) attempt([&] { device_.setFontBold(*weight == Weight::bold); });
 }
 
 void Pen::PlaceText(float x, float y, const QString& text) {
@@ -91,16 +91,31 @@ void Pen::MoveToLine(float y) {
 }
 
 void Pen::SkipLine() {
-    attempt([&] { device_.Print(QStringLiteral(" "), LineEnd::yes); });
+    attempt([&] { device_.Print(u" "_s, LineEnd::yes); });
 }
 
 void Pen::EndForm(FormEnd end) {
+    attempt([&] { end == FormEnd::page ? device_.NewPage() : handOver(); });
+}
+
+void Pen::handOver() {
+    if (desk_->progress)
+        device_.watchDelivery([this](int painted, int pages, bool canCancel) {
+            return desk_->progress({PrintStage::handingOver, painted, pages, canCancel});
+        });
+    outcome_.device = device_.deviceName();
+    const int pages = device_.pageCount();
+    // What was wrong with the pages counts only if they come out: else the trouble is why they don't.
+    const QString noted = std::exchange(outcome_.trouble, QString());
+    device_.EndDoc();
+    outcome_.pages = pages;
+    outcome_.trouble = noted;
+    if (pages == 0) Note(u"A nyomtatandó adatok mind üresek."_s);
+}
+
+void Pen::PageWritten(int done, int pages) {
     attempt([&] {
-        if (end == FormEnd::page) return device_.NewPage();
-        outcome_.device = device_.deviceName();
-        const int pages = device_.pageCount();
-        device_.EndDoc();
-        outcome_.pages = pages;
+        if (desk_->progress && !desk_->progress({PrintStage::writing, done, pages, true})) throw stoppedByUser();
     });
 }
 
@@ -110,6 +125,8 @@ float Pen::TextWidth(const QString& fontName, int size, const QString& text) {
         device_.setScaleMode(6);
         device_.setFontName(trimBlanks(fontName).toString());
         device_.setFontSize(static_cast<float>(size));
+        device_.setFontBold(false);
+        device_.setFontItalic(false);
         width = device_.TextWidth(text);
     });
     return width;
@@ -117,40 +134,53 @@ float Pen::TextWidth(const QString& fontName, int size, const QString& text) {
 
 void Pen::Reject(const Message& message) {
     if (stopped_) return;
-    prompts_->tell(message);
-    Note(trimBlanks(message.text).toString());
-    EndForm(FormEnd::job);
-    stopped_ = true;
+    desk_->prompts.tell(message);
+    Drop(trimBlanks(message.text).toString());
 }
 
 void Pen::Fail(int number, const QString& description) {
     if (stopped_) return;
+    if (number == stoppedByUser().number) return Drop(description);
+    Note(troubleOf(number, description));
     if (way_ == FailureWay::fallbackFont && number == 380 && !fallingBack_) return fallBack();
-    Note(description);
     if (way_ == FailureWay::passOver) return;
     stopped_ = true;
     device_.KillDoc();
     if (way_ != FailureWay::silent) tellFailure(number, description);
 }
 
+void Pen::Drop(const QString& trouble) {
+    if (stopped_) return;
+    outcome_.trouble = trouble;
+    stopped_ = true;
+    device_.KillDoc();
+}
+
 void Pen::Note(const QString& trouble) {
     if (outcome_.trouble.isEmpty()) outcome_.trouble = trouble;
+}
+
+// A refused value is a font: nothing else that a form asks of the device can be refused.
+QString Pen::troubleOf(int number, const QString& description) const {
+    if (number != 380) return description;
+    if (wanted_.name.isEmpty()) return u"Nincs megadva betűtípus."_s;
+    return u"A betűtípus nem használható: %1, %2 pont"_s.arg(wanted_.name).arg(qRound(wanted_.size));
 }
 
 // Should this font be missing as well, that is told.
 void Pen::fallBack() {
     fallingBack_ = true;
-    attempt([&] { device_.setFontName(QStringLiteral("Times New Roman")); });
+    attempt([&] { device_.setFontName(u"Times New Roman"_s); });
     fallingBack_ = false;
 }
 
 void Pen::tellFailure(int number, const QString& description) {
     const QString code = QString::number(number);
     if (way_ == FailureWay::message) {
-        const QString text = QStringLiteral("Hiba kódszáma: ") + code + u'\n' + description + u'\n';
-        prompts_->tell({Icon::warning, titles::printError, text});
+        const QString text = u"Hiba kódszáma: "_s + code + u'\n' + description + u'\n';
+        desk_->prompts.tell({Icon::warning, titles::printError, text});
     } else {
-        const QString text = description + QStringLiteral("\nHibakód száma : ") + code;
-        prompts_->tell({Icon::none, titles::formError, text});
+        const QString text = description + u"\nHibakód száma : "_s + code;
+        desk_->prompts.tell({Icon::none, titles::formError, text});
     }
 }

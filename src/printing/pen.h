@@ -35,11 +35,13 @@ struct PageRequest {
 constexpr PageRequest dlLandscape{2, 27, {}};
 
 // The steps of a print routine on the device, one job long. A step that fails goes the failure way; where that way
-// drops the job, the pen has stopped: all further steps do nothing, and loops over clients should end. What the job
-// came to is collected for the caller. Positions are mm.
+// drops the job, the pen has stopped: all further steps do nothing, and loops over clients should end. A job that the
+// user stops is dropped without a box, whatever the failure way. What the job came to is collected for the caller.
+// Positions are mm.
 class Pen {
 public:
-    Pen(const PrintDesk& desk, FailureWay way, const QString& jobTitle);
+    // Starts the job (PrintDevice::startJob). The desk outlives the pen.
+    Pen(const PrintDesk& desk, FailureWay way, const QString& jobTitle, FirstPage page = FirstPage::ownPage);
     // A pen that only measures, also in the middle of a job: failures are passed over.
     explicit Pen(PrintDevice& device);
 
@@ -53,8 +55,7 @@ public:
     void OpenForm(const PageRequest& request);
 
     // `name` may be padded, as in a record.
-    void SetFont(const QString& name, int size);
-    void SetFont(const QString& name, int size, Weight weight);
+    void SetFont(const QString& name, int size, std::optional<Weight> weight = {});
     // Text with a line end.
     void PlaceText(float x, float y, const QString& text);
     // The same on the line where the pen stands.
@@ -64,14 +65,18 @@ public:
     void MoveToLine(float y);
     void SkipLine();
     void EndForm(FormEnd end);
+    // One more page of a batch is written: tells the desk, whose answer may drop the job.
+    void PageWritten(int done, int pages);
 
-    // Width in mm in the given font, which stays set; 0 if it cannot be measured.
+    // Width in mm in the given font, upright and not bold, which stays set; 0 if it cannot be measured.
     float TextWidth(const QString& fontName, int size, const QString& text);
 
     // The form's main data are missing: shows the box and ends the job without a page.
     void Reject(const Message& message);
     // An error of the routine itself takes the failure way as well.
     void Fail(int number, const QString& description);
+    // Ends the job without a page and without a box.
+    void Drop(const QString& trouble);
     // Something for the status line that stops nothing. The first trouble of a job is the one that counts.
     void Note(const QString& trouble);
 
@@ -81,13 +86,16 @@ public:
 private:
     template<class Step>
     void attempt(Step step);
+    QString troubleOf(int number, const QString& description) const;
+    void handOver();
     void fallBack();
     void tellFailure(int number, const QString& description);
 
     PrintDevice& device_;
-    Prompts* prompts_; // none when measuring
+    const PrintDesk* desk_; // none when measuring
     FailureWay way_;
     bool stopped_ = false;
     bool fallingBack_ = false;
+    Font wanted_ = {}; // asked for last, had or not
     PrintOutcome outcome_;
 };

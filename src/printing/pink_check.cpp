@@ -1,13 +1,12 @@
 #include "printing/pink_check.h"
 
-#include "printing/check_batch.h"
-#include "settings/check_layouts.h"
+#include "printing/check_forms.h"
+#include "printing/form_routine.h"
+#include "printing/form_text.h"
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-struct Party {
-    QString name, settlement, street, postcode;
-};
 
 struct PinkCheckFront : Party { // the party is the addressee
     QString amount, words1, words2;
@@ -18,22 +17,8 @@ struct PinkCheckBack : Party { // the party is the sender
     QString notice1, notice2, notice3, notice4;
 };
 
-Party partyOf(const ClientRec& client) {
-    return {client.Nev.trimmed(), client.Helyseg.trimmed(), client.Cim.trimmed(), client.Irsz.trimmed()};
-}
-
-Party fixedParty(const SetRcsekk& layout) {
-    return {layout.txRcsekkNev.trimmed(), layout.txRcsekkHelyseg.trimmed(), layout.txRcsekkCim.trimmed(),
-            layout.txRcsekkIrszam.trimmed()};
-}
-
 Party addresseeOf(const PinkCheckTab& tab) {
     return {trimmed(tab.RlbNev), trimmed(tab.RlbHelys), trimmed(tab.RlbCim), trimmed(tab.RlbIrsz)};
-}
-
-// Postcode as stored, padding included; no blank behind the comma.
-QString addressLine(const QString& postcode, const Party& party) {
-    return postcode + u' ' + party.settlement + u',' + party.street;
 }
 
 PinkCheckFront frontOfTab(const PinkCheckTab& tab) {
@@ -52,13 +37,14 @@ PinkCheckFront frontOfClient(const ClientRec& client, const PinkCheckTab& tab, c
                              const WordRows& rows) {
     PinkCheckFront page;
     const bool clientSends = tab.opAllando == FixedParty::addressee;
-    const Party sender = clientSends ? partyOf(client) : fixedParty(layout);
     static_cast<Party&>(page) = clientSends ? addresseeOf(tab) : partyOf(client);
     page.amount = starred(QString::number(client.Osszegek[0]));
     page.words1 = rows.row1;
     page.words2 = rows.row2;
+    Party sender = clientSends ? partyOf(client) : fixedParty(layout);
     page.senderName = sender.name;
-    page.senderAddress = addressLine(clientSends ? client.Irsz.stored() : layout.txRcsekkIrszam.stored(), sender);
+    sender.postcode = clientSends ? client.Irsz.stored() : layout.txRcsekkIrszam.stored(); // padding included
+    page.senderAddress = addressLine(sender, u","_s);
     return page;
 }
 
@@ -88,19 +74,21 @@ using Front = Item<PinkCheckFront, SetRcsekk>;
 
 constexpr Front frontItems[] = {
     Front::font(&L::cmbRcsekkNumBetuTipus, &L::TextRcsekkBetuMeret1),
-    Front::hold(&F::amount, &L::RcsekkTextosszeg_x1, {10, 0}, &L::RcsekkTextosszeg_y1, {3, 0}).flag(0),
-    Front::hold(&F::amount, &L::RcsekkTextosszeg_x2, {10, 0}).flag(0),
-    Front::hold(&F::amount, &L::RcsekkTextosszeg_x2, {10, 0}, &L::RcsekkTextosszeg_y2, {3, 0}).flag(0),
+    Front::hold(&F::amount, &L::RcsekkTextosszeg_x1, {10, 0}, &L::RcsekkTextosszeg_y1, {3, 0}).flag(Printed::amount),
+    Front::hold(&F::amount, &L::RcsekkTextosszeg_x2, {10, 0}).flag(Printed::amount),
+    Front::hold(&F::amount, &L::RcsekkTextosszeg_x2, {10, 0}, &L::RcsekkTextosszeg_y2, {3, 0}).flag(Printed::amount),
     Front::font(&L::cmbRcsekkSzovegBetuTipus, &L::TextRcsekkBetuMeret2),
     // Both rows of words hang on one y field.
-    Front::text(&F::words1, &L::RcsekkTextCsSzoveg_x1, {8, 0}, &L::RcsekkTextCsSzoveg_y1, {5, 3}).flag(1),
-    Front::text(&F::words2, &L::RcsekkTextCsSzoveg_x1, {8, 0}, &L::RcsekkTextCsSzoveg_y1, {11, 10}).flag(1),
-    Front::text(&F::words1, &L::RcsekkTextCsSzoveg_x2, {7, 0}, &L::RcsekkTextCsSzoveg_y2, {3, 1}).flag(1),
-    Front::text(&F::words2, &L::RcsekkTextCsSzoveg_x2, {7, 0}, &L::RcsekkTextCsSzoveg_y2, {9, 8}).flag(1),
-    Front::text(&F::senderName, &L::RcsekkTextFelado_x, {5, 0}, &L::RcsekkTextFelado_y, {3, 1}).flag(2).orSkipLine(),
-    Front::next(&F::senderAddress, &L::RcsekkTextFelado_x, {5, 5}).flag(3),
+    Front::text(&F::words1, &L::RcsekkTextCsSzoveg_x1, {8, 0}, &L::RcsekkTextCsSzoveg_y1, {5, 3}).flag(Printed::words),
+    Front::text(&F::words2, &L::RcsekkTextCsSzoveg_x1, {8, 0}, &L::RcsekkTextCsSzoveg_y1, {11, 10})
+        .flag(Printed::words),
+    Front::text(&F::words1, &L::RcsekkTextCsSzoveg_x2, {7, 0}, &L::RcsekkTextCsSzoveg_y2, {3, 1}).flag(Printed::words),
+    Front::text(&F::words2, &L::RcsekkTextCsSzoveg_x2, {7, 0}, &L::RcsekkTextCsSzoveg_y2, {9, 8}).flag(Printed::words),
+    Front::text(&F::senderName, &L::RcsekkTextFelado_x, {5, 0}, &L::RcsekkTextFelado_y, {3, 1}).flag(Printed::name),
+    Front::skip().flag(Printed::name, false),
+    Front::next(&F::senderAddress, &L::RcsekkTextFelado_x, {5, 5}).flag(Printed::address),
     // The addressee always prints, in the upright batch as large as the amounts.
-    Front::font(&L::cmbRcsekkSzovegBetuTipus, &L::TextRcsekkBetuMeret2, &L::TextRcsekkBetuMeret1),
+    Front::font(&L::cmbRcsekkSzovegBetuTipus, &L::TextRcsekkBetuMeret1).only({Run::uprightBatch}),
     Front::text(&F::name, &L::RcsekkTextcim_x1, {4, 0}, &L::RcsekkTextcim_y, {0, -3}),
     Front::next(&F::settlement, &L::RcsekkTextcim_x1, {4, 0}),
     Front::next(&F::street, &L::RcsekkTextcim_x1, {4, 0}),
@@ -120,72 +108,67 @@ constexpr Back backItems[] = {
     Back::next(&B::settlement, &L::txRcsekkFeladoHatoldal_x, {4, -4}),
     Back::next(&B::street, &L::txRcsekkFeladoHatoldal_x, {4, -4}),
     Back::skip(),
-    Back::next(&B::postcode, &L::txRcsekkFeladoHatoldal_x, {9, 4, 1, 1}),
+    Back::next(&B::postcode, &L::txRcsekkFeladoHatoldal_x, Offset(9, 1).inBatch(4, 1)),
     Back::text(&B::notice1, &L::txRcsekkKozlemHatoldal_x, {4, -4}, &L::txRcsekkKozlemHatoldal_y, {-2, -4}),
     Back::next(&B::notice2, &L::txRcsekkKozlemHatoldal_x, {4, -4}),
     Back::next(&B::notice3, &L::txRcsekkKozlemHatoldal_x, {4, -4}),
     Back::next(&B::notice4, &L::txRcsekkKozlemHatoldal_x, {4, -4}),
 };
 
-QString jobTitle() { return QStringLiteral("rozsaszin-csekk"); }
-
-// Sideways the page is left as it is, but that a single back stands upright on it.
-PageRequest pageRequest(FormRun feed, Side side) {
-    if (isUpright(feed)) return dlLandscape;
-    return side == Side::back ? PageRequest{1, {}, {}} : PageRequest{};
+// Both sides of every run print alike, but for the page and what the summary counts.
+FormRoutine routineFor(Run run, Side side) {
+    const bool batch = run == Run::uprightBatch || run == Run::sidewaysBatch;
+    FormRoutine routine{.run = run,
+                        .jobTitle = u"rozsaszin-csekk",
+                        .failureWay = FailureWay::message,
+                        .fromA4 = batch,
+                        .noun = u"csekk",
+                        .printsAmount = side == Side::front,
+                        .asksForPrinter = true};
+    if (isUpright(run)) routine.page = dlLandscape;
+    if (run == Run::sideways && side == Side::back) routine.page = {1, {}, {}}; // else sideways it is left as it is
+    return routine;
 }
 
-PrintOutcome printTab(const PrintDesk& desk, const PinkCheckTab& tab, FormRun feed) {
-    Pen pen(desk, FailureWay::message, jobTitle());
-    const auto set = readRecord<Set>(desk.folder);
-    pen.SelectPrinter(set);
-    const auto layout = readRecord<SetRcsekk>(desk.folder);
-    pen.OpenForm(pageRequest(feed, tab.side));
-    if (tab.side == Side::front) {
-        const Sheet sheet = checkSheet(pen, set, feed);
-        printItems(pen, frontItems, frontOfTab(tab), layout, sheet);
-    } else {
-        printItems(pen, backItems, backOfTab(tab), layout, Sheet{feed, {}, 0});
-    }
-    pen.EndForm(FormEnd::job);
-    return pen.outcome();
+void printFront(Pen& pen, const Set& set, const PinkCheckFront& page, const SetRcsekk& layout, Run run) {
+    printItems(pen, frontItems, page, layout, checkOptions(pen, set, run));
+    if (page.isEmpty()) pen.Note(u"A címzett adatai üresek."_s);
 }
 
-PrintOutcome printBatch(const PrintDesk& desk, const PinkCheckTab& tab, const std::vector<int>& numbers, Side side,
-                        FormRun feed) {
-    Pen pen(desk, FailureWay::message, jobTitle());
-    pen.StartFromA4();
-    const auto set = readRecord<Set>(desk.folder);
-    pen.SelectPrinter(set);
+PrintOutcome printTab(const PrintDesk& desk, const PinkCheckTab& tab, Run run) {
     const auto layout = readRecord<SetRcsekk>(desk.folder);
-    pen.ShowPrinter();
-    pen.OpenForm(pageRequest(feed, side));
-    const Sheet sheet = side == Side::front ? checkSheet(pen, set, feed) : Sheet{feed, {}, 0};
-    printClients(pen, desk.folder, numbers, [&](const Client& record) {
-        const ClientRec& client = record.client;
-        if (side == Side::back) return printItems(pen, backItems, backOfClient(client, tab, layout), layout, sheet);
-        const WordRows rows =
-            batchWords(desk.device, client.Osszegek[0], layout.cmbRcsekkSzovegBetuTipus, layout.TextRcsekkBetuMeret2);
-        printItems(pen, frontItems, frontOfClient(client, tab, layout, rows), layout, sheet);
+    return printOne(desk, routineFor(run, tab.side), [&](Pen& pen, const Set& set) {
+        if (tab.side == Side::back) return printItems(pen, backItems, backOfTab(tab), layout, {.run = run});
+        printFront(pen, set, frontOfTab(tab), layout, run);
     });
-    pen.EndForm(FormEnd::job);
-    return pen.outcome();
+}
+
+PrintOutcome printBatch(const PrintDesk& desk, const PinkCheckTab& tab, const ListRows& rows, Side side, Run run) {
+    const auto layout = readRecord<SetRcsekk>(desk.folder);
+    return printEach(desk, routineFor(run, side), rows, [&](Pen& pen, const Set& set, const Client& record) {
+        const ClientRec& client = record.client;
+        if (side == Side::back)
+            return printItems(pen, backItems, backOfClient(client, tab, layout), layout, {.run = run});
+        const WordRows words =
+            batchWords(desk.device, client.Osszegek[0], layout.cmbRcsekkSzovegBetuTipus, layout.TextRcsekkBetuMeret2);
+        printFront(pen, set, frontOfClient(client, tab, layout, words), layout, run);
+    });
 }
 
 } // namespace
 
 PrintOutcome PrintAlloRCsekk(const PrintDesk& desk, const FormTabs& tabs, const ListRows& /*rows*/) {
-    return printTab(desk, tabs.pinkCheck, FormRun::upright);
+    return printTab(desk, tabs.pinkCheck, Run::upright);
 }
 
 PrintOutcome PrintFekvoRCsekk(const PrintDesk& desk, const FormTabs& tabs, const ListRows& /*rows*/) {
-    return printTab(desk, tabs.pinkCheck, FormRun::sideways);
+    return printTab(desk, tabs.pinkCheck, Run::sideways);
 }
 
 PrintOutcome PrintCsAlloRcsekk(const PrintDesk& desk, const FormTabs& tabs, const ListRows& rows) {
-    return printBatch(desk, tabs.pinkCheck, rows.selected, tabs.pinkCheck.side, FormRun::uprightBatch);
+    return printBatch(desk, tabs.pinkCheck, rows, tabs.pinkCheck.side, Run::uprightBatch);
 }
 
 PrintOutcome PrintCsFekvoRcsekk(const PrintDesk& desk, const FormTabs& tabs, const ListRows& rows) {
-    return printBatch(desk, tabs.pinkCheck, rows.selected, Side::front, FormRun::sidewaysBatch);
+    return printBatch(desk, tabs.pinkCheck, rows, Side::front, Run::sidewaysBatch);
 }

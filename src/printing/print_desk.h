@@ -9,8 +9,20 @@
 
 enum class Feed { upright, sideways }; // OpOrientacioAllo, OpOrientacioFekvo
 
-// Told after each page of a batch; the answer false drops the whole job.
-using PageProgress = std::function<bool(int pagesDone, int pages)>;
+// A job goes through its pages twice: a batch is written page by page, then any job is handed over to its device.
+enum class PrintStage { writing, handingOver };
+
+struct PagesDone {
+    PrintStage stage;
+    int done;       // from 1 to pages
+    int pages;      // in a PDF each copy counts as pages of its own
+    bool canCancel; // whether an answer of false is heard
+};
+
+// Told after each page of either stage, on the thread that prints. The answer false drops the whole job: nothing
+// prints, no box comes up, and the outcome says that the user stopped it. Where it can't be cancelled any more (a
+// native Windows printer takes pages as they come) the answer doesn't count.
+using PageProgress = std::function<bool(const PagesDone&)>;
 
 // What every print routine works with.
 struct PrintDesk {
@@ -32,5 +44,5 @@ struct ListRows {
 struct PrintOutcome {
     int pages = 0;   // handed over
     QString device;  // where
-    QString trouble; // the first thing that went wrong or was missing; empty only if all pages are out and in order
+    QString trouble; // why no page came out, or the first thing that was wrong with them; empty if all is in order
 };

@@ -1,7 +1,11 @@
 #include "printing/print_device.h"
 
+#include <QScopeGuard>
+
 #include <cmath>
 #include <utility>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -9,9 +13,9 @@ constexpr float mmPerTwip = 25.4F / 1440.0F;
 constexpr float a4Width = 210;
 constexpr float a4Height = 297;
 
-QString defaultTitle() { return QStringLiteral("Tarlimo"); }
+QString defaultTitle() { return u"Tarlimo"_s; }
 
-DeviceError refusedValue() { return {380, QStringLiteral("Érvénytelen tulajdonságérték")}; }
+DeviceError refusedValue() { return {380, u"Érvénytelen tulajdonságérték"_s}; }
 
 QString withoutTrailingBlanks(QString name) {
     while (name.endsWith(u' '))
@@ -39,6 +43,13 @@ void PrintDevice::setCurrentPrinter(int index) {
 void PrintDevice::useForThisJob(int printer, int copies) {
     jobPrinter_ = requirePrinter(printer);
     job_.copies = copies;
+}
+
+void PrintDevice::startJob(FirstPage page) {
+    const QString name = u"Times New Roman CE"_s;
+    if (page == FirstPage::ownPage) setup_ = PageSetup{};
+    font_ = Font{service_.knowsFont(name) ? name : QString(), 12};
+    NewPage();
 }
 
 void PrintDevice::setScaleMode(int mode) {
@@ -131,10 +142,16 @@ int PrintDevice::pageCount() const { return static_cast<int>(job_.pages.size());
 
 QString PrintDevice::deviceName() { return service_.printers().value(currentPrinter()); }
 
+void PrintDevice::watchDelivery(DeliveryProgress progress) { watch_ = std::move(progress); }
+
 void PrintDevice::EndDoc() {
     const int printer = currentPrinter();
+    DeliveryProgress watch = std::move(watch_);
     const PrintJob job = takeJob(); // the job has ended, whatever the service does with it
-    if (!job.pages.empty()) service_.deliver(job, printer);
+    if (job.pages.empty()) return;
+    service_.watchDelivery(std::move(watch));
+    const auto unwatch = qScopeGuard([this] { service_.watchDelivery({}); });
+    service_.deliver(job, printer);
 }
 
 void PrintDevice::KillDoc() { takeJob(); }
@@ -149,8 +166,7 @@ PrintedPage& PrintDevice::page() {
 }
 
 int PrintDevice::requirePrinter(int index) {
-    if (index < 0 || index >= service_.printers().size())
-        throw DeviceError(9, QStringLiteral("Az index kívül esik a tartományon"));
+    if (index < 0 || index >= service_.printers().size()) throw DeviceError(9, u"Az index kívül esik a tartományon"_s);
     return index;
 }
 
@@ -163,6 +179,7 @@ PrintJob PrintDevice::takeJob() {
     PrintJob job = std::exchange(job_, PrintJob{});
     job_.title = defaultTitle();
     jobPrinter_.reset();
+    watch_ = {};
     NewPage();
     return job;
 }

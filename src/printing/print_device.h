@@ -4,6 +4,9 @@
 
 enum class LineEnd { no, yes };
 
+// The page that a job begins with: the device's own, or whatever the job before it left.
+enum class FirstPage { ownPage, asLeft };
+
 // The one print device of the process: a pen that builds a job. Its state (device, page set-up, font) lives between
 // jobs: a routine sets what it needs and leaves the rest. A job begins with the first write and reaches the service as
 // a whole at EndDoc, so it is printed whole or not at all, and there are no blank pages. All coordinates are
@@ -23,6 +26,11 @@ public:
     // the former device and a single copy are in force again. The page set-up is left as it is. DeviceError 9 beyond
     // the list.
     void useForThisJob(int printer, int copies);
+
+    // What one job leaves behind must not reach the next: page as told, "Times New Roman CE" (none if the service
+    // doesn't know it) of 12 points, neither bold nor italic, the pen at 0, 0. The device in force stays. For use
+    // between jobs.
+    void startJob(FirstPage page = FirstPage::ownPage);
 
     void setScaleMode(int mode); // 6, millimetres, is the one served; DeviceError 380 for others
     void setOrientation(int orientation);
@@ -59,6 +67,8 @@ public:
     int pageCount() const;
     // Name of the device in force.
     QString deviceName();
+    // Who is told of each page while the job that is under way is handed over.
+    void watchDelivery(DeliveryProgress progress);
     // Hands the job over and ends it, also if the service refuses it (DeviceError). Without a page nothing is handed
     // over. The pen goes to 0, 0.
     void EndDoc();
@@ -81,4 +91,5 @@ private:
     std::optional<int> jobPrinter_; // fixed at the first write, or chosen for this job
     bool pageOpen_ = false;
     PrintJob job_;
+    DeliveryProgress watch_;
 };

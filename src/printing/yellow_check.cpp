@@ -1,7 +1,11 @@
 #include "printing/yellow_check.h"
 
-#include "printing/check_batch.h"
+#include "printing/check_forms.h"
+#include "printing/form_routine.h"
+#include "printing/form_text.h"
 #include "prompts/titles.h"
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -67,107 +71,119 @@ YellowCheckPage pageOfClient(const Client& record, const YellowCheckTab& tab, co
 using Page = YellowCheckPage;
 using Row = Item<YellowCheckPage, Set>;
 
-// Name rows: mm below the field, in the order of the feeds.
-constexpr Offset nameDy{4, 4, 2, 3};
+// Name rows: mm below the field.
+constexpr Offset nameDy = Offset(4, 2).inBatch(4, 3);
 
 constexpr Row yellowCheckItems[] = {
     Row::font(&Set::ComboBetuTipus1, &Set::TextBetuMeret1),
-    Row::hold(&Page::amount, &Set::Textosszeg_x1, {10, 0}, &Set::Textosszeg_y, {1, 0}).flag(0).when(&Page::hasAmount),
-    Row::hold(&Page::amount, &Set::Textosszeg_x2, {10, 0}).flag(0).when(&Page::hasAmount),
+    Row::hold(&Page::amount, &Set::Textosszeg_x1, {10, 0}, &Set::Textosszeg_y, {1, 0})
+        .flag(Printed::amount)
+        .when(&Page::hasAmount),
+    Row::hold(&Page::amount, &Set::Textosszeg_x2, {10, 0}).flag(Printed::amount).when(&Page::hasAmount),
     Row::font(&Set::ComboBetuTipus2, &Set::TextBetuMeret2),
-    Row::text(&Page::notice1, &Set::Textkozlemeny_x, {10, 0}, &Set::Textkozlemeny_y, {2, 0}).flag(4),
-    Row::next(&Page::noticeThird, &Set::Textkozlemeny_x, {10, 0}).flag(4),
-    Row::next(&Page::notice2, &Set::Textkozlemeny_x, {10, 0}).flag(4),
-    Row::text(&Page::words1, &Set::TextCsSzoveg_x1, {8, 0}, &Set::TextCsSzoveg_y1, {2, 0}).flag(1),
-    Row::text(&Page::words2, &Set::TextCsSzoveg_x1, {8, 0}, &Set::TextCsSzoveg_y2, {1, 0}).flag(1),
-    Row::text(&Page::words1, &Set::TextCsSzoveg_x2, {7, 0}, &Set::TextCsSzoveg_y1, {2, 0}).flag(1),
-    Row::text(&Page::words2, &Set::TextCsSzoveg_x2, {7, 0}, &Set::TextCsSzoveg_y2, {1, 0}).flag(1),
+    Row::text(&Page::notice1, &Set::Textkozlemeny_x, {10, 0}, &Set::Textkozlemeny_y, {2, 0}).flag(Printed::notice),
+    Row::next(&Page::noticeThird, &Set::Textkozlemeny_x, {10, 0}).flag(Printed::notice),
+    Row::next(&Page::notice2, &Set::Textkozlemeny_x, {10, 0}).flag(Printed::notice),
+    Row::text(&Page::words1, &Set::TextCsSzoveg_x1, {8, 0}, &Set::TextCsSzoveg_y1, {2, 0}).flag(Printed::words),
+    Row::text(&Page::words2, &Set::TextCsSzoveg_x1, {8, 0}, &Set::TextCsSzoveg_y2, {1, 0}).flag(Printed::words),
+    Row::text(&Page::words1, &Set::TextCsSzoveg_x2, {7, 0}, &Set::TextCsSzoveg_y1, {2, 0}).flag(Printed::words),
+    Row::text(&Page::words2, &Set::TextCsSzoveg_x2, {7, 0}, &Set::TextCsSzoveg_y2, {1, 0}).flag(Printed::words),
     Row::font(&Set::ComboBetuTipus1, &Set::TextBetuMeret1),
-    Row::text(&Page::identifier, &Set::TextBefizAzon_x, {7, 0}, &Set::TextBefizAzon_y, {0, 0}).flag(7),
+    Row::text(&Page::identifier, &Set::TextBefizAzon_x, {7, 0}, &Set::TextBefizAzon_y, {0, 0})
+        .flag(Printed::identifier),
     Row::font(&Set::ComboBetuTipus2, &Set::TextBetuMeret2),
-    Row::text(&Page::title1, &Set::Textjogcim_x, {7, 0}, &Set::Textjogcim_y, {0, 0}).flag(5),
-    Row::next(&Page::noticeThird, &Set::Textjogcim_x, {7, 0}).flag(5),
-    Row::next(&Page::title2, &Set::Textjogcim_x, {7, 0}).flag(5),
-    Row::next(&Page::deadline, &Set::Textjogcim_x, {7, 0}).flag(5),
-    Row::text(&Page::name, &Set::Textcim_x1, {5, 0}, &Set::Textcim_y, nameDy).flag(2).orSkipLine(FormRun::upright),
-    Row::next(&Page::settlement, &Set::Textcim_x1, {5, 0}).flag(3),
-    Row::next(&Page::street, &Set::Textcim_x1, {5, 0}).flag(3),
-    Row::text(&Page::postcode, &Set::Textcim_x1, {5, 0}, &Set::Textirsz_y, {0, 0}).flag(3),
-    Row::text(&Page::name, &Set::Textcim_x2, {5, 0}, &Set::Textcim_y, nameDy).flag(2).orSkipLine(FormRun::upright),
-    Row::next(&Page::settlement, &Set::Textcim_x2, {5, 0}).flag(3),
-    Row::next(&Page::street, &Set::Textcim_x2, {5, 0}).flag(3),
-    Row::text(&Page::postcode, &Set::Textcim_x2, {5, 0}, &Set::Textirsz_y, {0, 0}).flag(3),
+    Row::text(&Page::title1, &Set::Textjogcim_x, {7, 0}, &Set::Textjogcim_y, {0, 0}).flag(Printed::title),
+    Row::next(&Page::noticeThird, &Set::Textjogcim_x, {7, 0}).flag(Printed::title),
+    Row::next(&Page::title2, &Set::Textjogcim_x, {7, 0}).flag(Printed::title),
+    Row::next(&Page::deadline, &Set::Textjogcim_x, {7, 0}).flag(Printed::title),
+    Row::text(&Page::name, &Set::Textcim_x1, {5, 0}, &Set::Textcim_y, nameDy).flag(Printed::name),
+    Row::moveTo(&Set::Textcim_y, nameDy).flag(Printed::name, false).only({Run::upright}),
+    Row::skip().flag(Printed::name, false),
+    Row::next(&Page::settlement, &Set::Textcim_x1, {5, 0}).flag(Printed::address),
+    Row::next(&Page::street, &Set::Textcim_x1, {5, 0}).flag(Printed::address),
+    Row::text(&Page::postcode, &Set::Textcim_x1, {5, 0}, &Set::Textirsz_y, {0, 0}).flag(Printed::address),
+    Row::text(&Page::name, &Set::Textcim_x2, {5, 0}, &Set::Textcim_y, nameDy).flag(Printed::name),
+    Row::moveTo(&Set::Textcim_y, nameDy).flag(Printed::name, false).only({Run::upright}),
+    Row::skip().flag(Printed::name, false),
+    Row::next(&Page::settlement, &Set::Textcim_x2, {5, 0}).flag(Printed::address),
+    Row::next(&Page::street, &Set::Textcim_x2, {5, 0}).flag(Printed::address),
+    Row::text(&Page::postcode, &Set::Textcim_x2, {5, 0}, &Set::Textirsz_y, {0, 0}).flag(Printed::address),
 };
 
-QString jobTitle() { return QStringLiteral("sarga-csekk"); }
+constexpr auto jobTitle = u"sarga-csekk";
+constexpr PageRequest ownPage{1, {}, QSizeF(210, 105)};
 
-PageRequest pageRequest(FormRun feed) { return isUpright(feed) ? dlLandscape : PageRequest{1, {}, QSizeF(210, 105)}; }
+constexpr FormRoutine upright{.run = Run::upright,
+                              .jobTitle = jobTitle,
+                              .failureWay = FailureWay::silent,
+                              .page = dlLandscape,
+                              .track = TrackDefault::set,
+                              .fromA4 = true};
+constexpr FormRoutine sideways{.run = Run::sideways,
+                               .jobTitle = jobTitle,
+                               .failureWay = FailureWay::silent,
+                               .page = ownPage,
+                               .track = TrackDefault::set,
+                               .fromA4 = true};
+constexpr FormRoutine uprightBatch{.run = Run::uprightBatch,
+                                   .jobTitle = jobTitle,
+                                   .failureWay = FailureWay::message,
+                                   .page = dlLandscape,
+                                   .fromA4 = true,
+                                   .noun = u"csekk",
+                                   .printsAmount = true,
+                                   .asksForPrinter = true,
+                                   .opensPerClient = true,
+                                   .allRowsWhenAutomatic = true};
+constexpr FormRoutine sidewaysBatch{.run = Run::sidewaysBatch,
+                                    .jobTitle = jobTitle,
+                                    .failureWay = FailureWay::silent,
+                                    .page = ownPage,
+                                    .fromA4 = true,
+                                    .noun = u"csekk",
+                                    .printsAmount = true,
+                                    .opensPerClient = true};
 
-Sheet yellowSheet(Pen& pen, const Set& set, FormRun feed) {
-    Sheet sheet = checkSheet(pen, set, feed);
-    if (isUpright(feed)) sheet.extraX = set.TextVkorrekcio;
-    return sheet;
+void printPage(Pen& pen, const Set& set, const YellowCheckPage& page, Run run) {
+    PrintOptions options = checkOptions(pen, set, run);
+    if (isUpright(run)) options.extraX = set.TextVkorrekcio;
+    printItems(pen, yellowCheckItems, page, set, options);
 }
 
-PrintOutcome printTab(const PrintDesk& desk, const YellowCheckTab& tab, FormRun feed) {
-    Pen pen(desk, FailureWay::silent, jobTitle());
-    pen.StartFromA4();
-    if (trimmed(tab.txNev).isEmpty()) {
-        pen.Reject({Icon::none, titles::formError, QStringLiteral(" Nincs kijelölve ügyfél a listáról...")});
-        return pen.outcome();
-    }
-    const auto set = readRecord<Set>(desk.folder);
-    pen.SelectPrinter(set, TrackDefault::set);
-    const Sheet sheet = yellowSheet(pen, set, feed);
-    pen.OpenForm(pageRequest(feed));
-    printItems(pen, yellowCheckItems, pageOfTab(tab), set, sheet);
-    pen.EndForm(FormEnd::job);
-    return pen.outcome();
+PrintOutcome printTab(const PrintDesk& desk, const FormRoutine& routine, const YellowCheckTab& tab) {
+    std::optional<Message> missing;
+    if (trimmed(tab.txNev).isEmpty())
+        missing = {Icon::none, titles::formError, u" Nincs kijelölve ügyfél a listáról..."_s};
+    const auto print = [&](Pen& pen, const Set& set) { printPage(pen, set, pageOfTab(tab), routine.run); };
+    return printOne(desk, routine, print, missing);
 }
 
-void printBatch(Pen& pen, const PrintDesk& desk, const YellowCheckTab& tab, const Set& set,
-                const std::vector<int>& numbers, FormRun feed) {
-    const Sheet sheet = yellowSheet(pen, set, feed);
-    printClients(pen, desk.folder, numbers, [&](const Client& client) {
+PrintOutcome printBatch(const PrintDesk& desk, const FormRoutine& routine, const YellowCheckTab& tab,
+                        const ListRows& rows) {
+    return printEach(desk, routine, rows, [&](Pen& pen, const Set& set, const Client& client) {
         YellowCheckPage page = pageOfClient(client, tab, set);
-        if (page.hasAmount) {
-            const std::int32_t azazOsszeg = client.client.Osszegek[0];
-            setWords(page, batchWords(desk.device, azazOsszeg, set.ComboBetuTipus2, set.TextBetuMeret2));
-        }
-        pen.OpenForm(pageRequest(feed));
-        printItems(pen, yellowCheckItems, page, set, sheet);
+        if (page.hasAmount)
+            setWords(page, batchWords(desk.device, client.client.Osszegek[0], set.ComboBetuTipus2, set.TextBetuMeret2));
+        printPage(pen, set, page, routine.run);
     });
-    pen.EndForm(FormEnd::job);
 }
 
 } // namespace
 
 PrintOutcome PrintAlloCsekk(const PrintDesk& desk, const FormTabs& tabs, const ListRows& /*rows*/) {
-    return printTab(desk, tabs.yellowCheck, FormRun::upright);
+    return printTab(desk, upright, tabs.yellowCheck);
 }
 
 PrintOutcome PrintFekvoCsekk(const PrintDesk& desk, const FormTabs& tabs, const ListRows& /*rows*/) {
-    return printTab(desk, tabs.yellowCheck, FormRun::sideways);
+    return printTab(desk, sideways, tabs.yellowCheck);
 }
 
 PrintOutcome PrintCsAlloCsekk(const PrintDesk& desk, const FormTabs& tabs, const ListRows& rows) {
-    Pen pen(desk, FailureWay::message, jobTitle());
-    pen.StartFromA4();
-    const auto set = readRecord<Set>(desk.folder);
-    pen.SelectPrinter(set);
-    if (desk.attended) pen.ShowPrinter();
-    printBatch(pen, desk, tabs.yellowCheck, set, set.chkAutoPrint != 0 ? rows.all : rows.selected,
-               FormRun::uprightBatch);
-    return pen.outcome();
+    return printBatch(desk, uprightBatch, tabs.yellowCheck, rows);
 }
 
 PrintOutcome PrintCsFekvoCsekk(const PrintDesk& desk, const FormTabs& tabs, const ListRows& rows) {
-    Pen pen(desk, FailureWay::silent, jobTitle());
-    pen.StartFromA4();
-    const auto set = readRecord<Set>(desk.folder);
-    pen.SelectPrinter(set);
-    printBatch(pen, desk, tabs.yellowCheck, set, rows.selected, FormRun::sidewaysBatch);
-    return pen.outcome();
+    return printBatch(desk, sidewaysBatch, tabs.yellowCheck, rows);
 }
 
 QString deadlineText(const Set& set, const ClientRec& client) {

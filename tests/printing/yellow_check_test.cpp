@@ -179,7 +179,7 @@ TEST_F(YellowCheck, UprightBatchAsksForThePrinterAndTakesAllRowsWhenAutomatic) {
     // An empty selection: still the dialog, but no page, no message, and the choice is forgotten.
     prompts.printerChoices = {PrinterChoice{0, 3}};
     EXPECT_EQ(PrintCsAlloCsekk(desk, tabs, {{1}, {}}).pages, 0);
-    EXPECT_EQ(sideways({}).trouble, QString());
+    EXPECT_EQ(sideways({}).trouble, u"Nincs kijelölt ügyfél."_s);
     EXPECT_EQ(service.delivered.size(), 2U);
     EXPECT_EQ(prompts.told.size(), 1U);
     EXPECT_EQ(device.currentPrinter(), 1);

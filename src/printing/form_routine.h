@@ -1,0 +1,37 @@
+#pragma once
+
+#include "printing/pen.h"
+#include "printing/position.h"
+#include "records/client_database.h"
+
+#include <functional>
+
+// What tells one print routine from its sisters, as data. The order of the steps stands once, in printOne and
+// printEach.
+struct FormRoutine {
+    Run run;
+    QStringView jobTitle; // names the file of a PDF
+    FailureWay failureWay;
+    PageRequest page = {};
+    TrackDefault track = TrackDefault::leave;
+    bool fromA4 = false; // begins with a plain A4 page (Pen::StartFromA4)
+
+    // Of batches alone:
+    QStringView noun = {};             // what one page is, for the summary in the print dialog: "csekk"
+    bool printsAmount = false;         // the summary counts missing and too large amounts
+    bool asksForPrinter = false;       // shows the print dialog; else many pages are asked for
+    bool opensPerClient = false;       // sets the page up for each client anew, not once for the job
+    bool allRowsWhenAutomatic = false; // takes all rows of the list while automatic printing is switched on
+};
+
+using PrintForm = std::function<void(Pen&, const Set&)>;
+using PrintClient = std::function<void(Pen&, const Set&, const Client&)>;
+
+// One form, its data from the tab. `missing` is the box that rejects the job where its main data are missing.
+PrintOutcome printOne(const PrintDesk& desk, const FormRoutine& routine, const PrintForm& print,
+                      const std::optional<Message>& missing = {});
+
+// One form for each selected row, in the order of the list; clients are read fresh. A number that the 16 bits of a
+// record number cannot hold, or none at all, is error 6 before the first page, and never becomes a page.
+PrintOutcome printEach(const PrintDesk& desk, const FormRoutine& routine, const ListRows& rows,
+                       const PrintClient& print);
