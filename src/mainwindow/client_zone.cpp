@@ -18,7 +18,6 @@ ClientZone::ClientZone(const ProgramFolder& folder, QWidget* parent)
     count_->setAlignment(Qt::AlignCenter);
     view_->setModel(&model_);
     setFocusProxy(view_);
-    setColumnWidths({353, 470}); // 5292 and 7056 twips
     view_->header()->setStretchLastSection(true);
     view_->setMinimumHeight(90);
 

@@ -128,7 +128,7 @@ QLayout* PrintPanel::buildFeeds() {
 
 QWidget* PrintPanel::buildDeviceChoice() {
     auto* frame = named("Frame10", new QWidget);
-    chosenDevice_ = named("opPrinter_0", new TwoLineOption(u"Kijelölt nyomtató használata"_s));
+    chosenDevice_ = named("opPrinter_0", new QRadioButton(u"Kijelölt nyomtató használata"_s));
     systemDevice_ = named("opPrinter_1", new TwoLineOption(u"Windows alapértelmezett nyomtató használata"_s));
     chosenDevice_->setChecked(true);
     auto* group = new QButtonGroup(this);

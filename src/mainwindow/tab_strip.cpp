@@ -8,10 +8,26 @@
 #include <QDate>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QProxyStyle>
 #include <QTabBar>
+
+namespace {
+
+// Less room beside the captions, so that all eight stand side by side on a small screen.
+class NarrowTabs : public QProxyStyle {
+public:
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
+        return metric == PM_TabBarTabHSpace ? 12 : QProxyStyle::pixelMetric(metric, option, widget);
+    }
+};
+
+} // namespace
 
 TabStrip::TabStrip(FormTabs& tabs, const FormContext& context) : tabs_(tabs), context_(context) {
     setObjectName(QStringLiteral("SSTab1"));
+    auto* narrow = new NarrowTabs;
+    narrow->setParent(this);
+    tabBar()->setStyle(narrow);
     for (const TabRow& row : tabRows) {
         BoundView* view = row.make(tabs, context);
         if (auto* form = qobject_cast<FormView*>(view)) form->page()->setObjectName(QLatin1String(row.page));

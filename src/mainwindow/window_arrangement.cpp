@@ -13,6 +13,7 @@ namespace {
 
 constexpr QSize designSize(1240, 10665 / 15); // the height in twips, 15 to a pixel
 constexpr QMargins windowFrame(4, 32, 4, 4);  // about what a window manager adds
+constexpr int formHeight = 470;               // of tabs and print panel: a check at its natural size
 
 constexpr auto geometryKey = "ablak/hely"_L1;
 constexpr auto splitterKey = "ablak/osztas"_L1;
@@ -23,7 +24,8 @@ QString path(const ProgramFolder& folder) { return folder.file(u"ablak.ini"_s); 
 void centre(QWidget& window) {
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry().marginsRemoved(windowFrame);
     window.resize(designSize.boundedTo(screen.size()));
-    window.move(screen.center() - window.rect().center());
+    // The window is moved by its frame, the middle is that of what it frames.
+    window.move(screen.center() - window.rect().center() - QPoint(windowFrame.left(), windowFrame.top()));
 }
 
 } // namespace
@@ -32,8 +34,10 @@ void restoreArrangement(const ProgramFolder& folder, QWidget& window, QSplitter&
     const QSettings stored(path(folder), QSettings::IniFormat);
     if (!window.restoreGeometry(stored.value(geometryKey).toByteArray())) centre(window);
     if (!splitter.restoreState(stored.value(splitterKey).toByteArray()))
-        splitter.setSizes({splitter.widget(0)->sizeHint().height(), window.height()});
-    QList<int> widths;
+        splitter.setSizes({formHeight, window.height() - formHeight});
+    const int listWidth = window.width() - 290; // beside its buttons and the record numbers
+    QList<int> widths{qMin(353, listWidth * 2 / 5), qMin(470, listWidth / 2)}; // of the design: 5292 and 7056 twips
+    if (stored.contains(columnsKey)) widths.clear();
     for (const QVariant& width : stored.value(columnsKey).toList())
         widths << width.toInt();
     clients.setColumnWidths(widths);

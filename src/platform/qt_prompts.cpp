@@ -7,10 +7,12 @@
 #include <QFileIconProvider>
 #include <QFileInfo>
 #include <QGridLayout>
+#include <QHeaderView>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTreeView>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -53,6 +55,8 @@ QPushButton* addButton(QMessageBox& box, const QString& caption, QMessageBox::Bu
 
 void nameInHungarian(QFileDialog& dialog, const QString& accept) {
     dialog.resize(760, 460);
+    for (auto* list : dialog.findChildren<QTreeView*>())
+        list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     dialog.setLabelText(QFileDialog::LookIn, u"Hely:"_s);
     dialog.setLabelText(QFileDialog::FileName, u"Fájlnév:"_s);
     dialog.setLabelText(QFileDialog::FileType, u"Fájltípus:"_s);
