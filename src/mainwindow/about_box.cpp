@@ -5,9 +5,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-frmAbout::frmAbout(const std::function<void()>& openSystemInformation, QWidget* parent) : QDialog(parent) {
-    setObjectName(QStringLiteral("frmAbout"));
-    setWindowTitle(QStringLiteral("Névjegy"));
+frmAbout::frmAbout(const std::function<void()>& openSystemInformation, QWidget* parent)
+    : Dialog("frmAbout", QStringLiteral("Névjegy"), parent) {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(28, 22, 28, 18);
     layout->setSpacing(10);

@@ -10,9 +10,10 @@
 //
 //     number<&Set::Textosszeg_y>("Textosszeg_y", u"Numerikus összeg fentről:")
 //
-// What a box holds is always a text; a tick is "1" or "0".
+// What a box holds is always a text; a tick or an option is "1" or "0".
 
-enum class BoxKind { number, text, font, tick };
+struct BoxKind; // in setting_boxes.h
+extern const BoxKind numberBox, textBox, fontBox, tickBox, optionBox;
 
 // What the default button does with a box.
 enum class Restore {
@@ -25,10 +26,11 @@ enum class Restore {
 struct BoxLook {
     const char* name; // objectName
     const char16_t* label;
-    BoxKind kind = BoxKind::number;
+    const BoxKind* kind = &numberBox;
     Restore restore = Restore::yes;
     int maxLength = 32767; // letters that the field has room for
     const char16_t* toolTip = u"";
+    const char* shownWhile = nullptr; // the tick or option of the same frame that must be on, or the box is hidden
 };
 
 template<class Rec>
@@ -44,6 +46,11 @@ struct BoxRow : BoxLook {
     constexpr BoxRow withToolTip(const char16_t* tip) const {
         BoxRow row = *this;
         row.toolTip = tip;
+        return row;
+    }
+    constexpr BoxRow onlyWhile(const char* tickOrOption) const {
+        BoxRow row = *this;
+        row.shownWhile = tickOrOption;
         return row;
     }
 };
@@ -105,21 +112,37 @@ constexpr BoxRow<RecordOf<field>> numberLess20(const char* name, const char16_t*
 // A font name, picked or typed; one that isn't offered is kept as well.
 template<auto field>
 constexpr auto font(const char* name, const char16_t* label) {
-    return plainRow<field>({name, label, BoxKind::font});
+    return plainRow<field>({name, label, &fontBox});
 }
 
 // A text of the user, which has no factory value.
 template<auto field>
 constexpr auto text(const char* name, const char16_t* label) {
     constexpr auto width = std::remove_reference_t<decltype(std::declval<RecordOf<field>>().*field)>::width;
-    return plainRow<field>({name, label, BoxKind::text, Restore::no, static_cast<int>(width)});
+    return plainRow<field>({name, label, &textBox, Restore::no, static_cast<int>(width)});
 }
 
 // A tick box; `label` is its caption. The field may be a Bool16 or an I16 that holds 1 or 0.
 template<auto field>
 constexpr BoxRow<RecordOf<field>> tick(const char* name, const char16_t* label) {
     using Rec = RecordOf<field>;
-    return {{name, label, BoxKind::tick, Restore::no},
+    return {{name, label, &tickBox, Restore::no},
             [](const Rec& record) { return field_text::showTick(record.*field != 0); },
             [](Rec& record, QStringView text) { record.*field = field_text::isTicked(text); }};
+}
+
+// One of the options of a frame, of which one at a time is on: the one that stands for a true field, and its
+// counterpart, which stands for a false one.
+template<auto field>
+constexpr BoxRow<RecordOf<field>> option(const char* name, const char16_t* label) {
+    BoxRow<RecordOf<field>> row = tick<field>(name, label);
+    row.kind = &optionBox;
+    return row;
+}
+template<auto field>
+constexpr BoxRow<RecordOf<field>> counterOption(const char* name, const char16_t* label) {
+    using Rec = RecordOf<field>;
+    return {{name, label, &optionBox, Restore::no},
+            [](const Rec& record) { return field_text::showTick(record.*field == 0); },
+            [](Rec& record, QStringView text) { record.*field = !field_text::isTicked(text); }};
 }

@@ -1,12 +1,15 @@
 #include "settings/setup/page_builder.h"
 
+#include "controls/named.h"
 #include "prompts/titles.h"
+#include "settings/setup/button_bar.h"
 
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QStackedWidget>
+#include <QTime>
 
 namespace {
 
@@ -32,47 +35,21 @@ QLabel* makeUnit(QWidget* parent) {
     return unit;
 }
 
-constexpr int longestLine = 40; // a longer label takes two lines
-
-QLabel* makeLabel(const BoxLook& look, QWidget* box, QWidget* parent) {
-    auto* label = new QLabel(QString::fromUtf16(look.label), parent);
-    label->setTextFormat(Qt::PlainText);
-    label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    label->setWordWrap(label->text().size() > longestLine);
-    label->setBuddy(box);
-    return label;
+QPushButton* makeButton(const char* name, const char16_t* caption) {
+    return named(new QPushButton(QString::fromUtf16(caption)), name);
 }
 
-bool isWide(BoxKind kind) { return kind == BoxKind::text || kind == BoxKind::font; }
-
-// One box with its label; each column of boxes takes three of the grid: labels, boxes, and a gap.
-void addRow(QGridLayout& grid, const BoxLook& look, QWidget* box, int row, int column) {
-    if (look.kind == BoxKind::tick) {
-        grid.addWidget(box, row, 3 * column, 1, 2);
-        return;
-    }
-    grid.addWidget(makeLabel(look, box, box->parentWidget()), row, 3 * column);
-    grid.addWidget(box, row, 3 * column + 1);
-    if (isWide(look.kind)) grid.setColumnStretch(3 * column + 1, 1);
-}
-
-// Room that is left over goes into wide boxes, else between the columns, and below the rows.
-void addGaps(QGridLayout& grid, int rows, int columns) {
-    constexpr int gap = 24;
-    for (int column = 0; column < columns; ++column) {
-        if (grid.columnStretch(3 * column + 1) == 0) grid.setColumnStretch(3 * column + 2, 1);
-        if (column + 1 < columns) grid.setColumnMinimumWidth(3 * column + 2, gap);
-    }
-    grid.setRowStretch(rows, 1);
-}
+QString savedAt(QTime time) { return QStringLiteral("Elmentve ") + time.toString(QStringLiteral("hh:mm:ss")); }
 
 } // namespace
 
 PageBuilder::PageBuilder(const SetupContext& context)
     : fonts_(context.fonts)
     , prompts_(context.prompts)
-    , page_(new QWidget)
-    , content_(new QWidget(page_)) {
+    , page_(new SetupPage)
+    , content_(new QWidget(page_))
+    , buttons_(new ButtonBar(page_))
+    , note_(makeNote()) {
     head_ = new QHBoxLayout;
     head_->addStretch();
     head_->addWidget(makeUnit(content_), 0, Qt::AlignTop);
@@ -81,20 +58,14 @@ PageBuilder::PageBuilder(const SetupContext& context)
     contentLayout->addLayout(head_);
     contentLayout->addLayout(frames_);
     contentLayout->addStretch();
-
-    leftButtons_ = new QHBoxLayout;
-    rightButtons_ = new QHBoxLayout;
+    buttons_->addRight(note_);
 }
 
 // The scroll area measures its content as soon as it gets it, so it comes last.
-QWidget* PageBuilder::finish() {
-    auto* buttons = new QHBoxLayout;
-    buttons->addLayout(leftButtons_);
-    buttons->addStretch();
-    buttons->addLayout(rightButtons_);
+SetupPage* PageBuilder::finish() {
     auto* layout = new QVBoxLayout(page_);
     layout->addWidget(new PageScroll(content_), 1);
-    layout->addLayout(buttons);
+    layout->addWidget(buttons_);
     return page_;
 }
 
@@ -105,21 +76,6 @@ void PageBuilder::explain(const char16_t* text) {
     head_->insertWidget(0, explanation, 1);
 }
 
-QGroupBox* PageBuilder::layOut(const FrameLook& look, const std::vector<BoxLook>& looks,
-                               std::vector<QWidget*>& widgets) {
-    auto* frame = new QGroupBox(QString::fromUtf16(look.title));
-    if (look.name) frame->setObjectName(QString::fromLatin1(look.name));
-    auto* grid = new QGridLayout(frame);
-    const int rows = (static_cast<int>(looks.size()) + look.columns - 1) / look.columns;
-    for (const BoxLook& boxLook : looks) {
-        const int place = static_cast<int>(widgets.size());
-        widgets.push_back(makeBox(boxLook, fonts_, frame));
-        addRow(*grid, boxLook, widgets.back(), place % rows, place / rows);
-    }
-    addGaps(*grid, rows, look.columns);
-    return frame;
-}
-
 void PageBuilder::place(QWidget* frame, Cell cell) {
     frames_->addWidget(frame, cell.row, cell.column, cell.rowSpan, cell.columnSpan);
 }
@@ -128,38 +84,53 @@ QWidget* PageBuilder::swapped(const SwapRow& row, QWidget* shown, QWidget* hidde
     auto* place = new QStackedWidget;
     place->addWidget(shown);
     place->addWidget(hidden);
-    QPushButton* button = makeButton({row.name, row.captionWhileHidden, {}, [] { return true; }});
+    QPushButton* button = makeButton(row.name, row.captionWhileHidden);
     QObject::connect(button, &QPushButton::clicked, place, [=] {
         const bool nowShown = place->currentWidget() == shown;
         place->setCurrentWidget(nowShown ? hidden : shown);
         button->setText(QString::fromUtf16(nowShown ? row.captionWhileShown : row.captionWhileHidden));
     });
-    leftButtons_->addWidget(button);
+    buttons_->addLeft(button);
     return place;
 }
 
-void PageBuilder::addButton(ButtonSide side, const ButtonRow& row) {
-    (side == ButtonSide::left ? leftButtons_ : rightButtons_)->addWidget(makeButton(row));
+void PageBuilder::addLink(const LinkRow& row) {
+    QPushButton* button = makeButton(row.name, row.caption);
+    button->setEnabled(static_cast<bool>(row.open));
+    if (row.open) QObject::connect(button, &QPushButton::clicked, button, row.open);
+    buttons_->addLeft(button);
 }
 
-void PageBuilder::addButton(QGroupBox* frame, const ButtonRow& row) {
-    auto* grid = qobject_cast<QGridLayout*>(frame->layout());
-    const int foot = grid->rowCount() - 1; // so far the row that takes the room left over
-    grid->setRowStretch(foot, 0);
-    grid->setRowStretch(foot + 1, 1);
-    grid->addWidget(makeButton(row), foot, 0, 1, grid->columnCount(), Qt::AlignRight);
+void PageBuilder::addSave(const SaveRow& row) { buttons_->addRight(makeSave(row, note_)); }
+
+void PageBuilder::addSave(BoxFrame& frame, const SaveRow& row) {
+    auto* foot = new QHBoxLayout;
+    QLabel* note = makeNote();
+    foot->addStretch();
+    foot->addWidget(note);
+    foot->addWidget(makeSave(row, note));
+    frame.addFoot(foot);
 }
 
-QPushButton* PageBuilder::makeButton(const ButtonRow& row) {
-    auto* button = new QPushButton(QString::fromUtf16(row.caption));
-    button->setObjectName(QString::fromLatin1(row.name));
-    button->setAutoDefault(false); // ENTER in a box must not store anything
-    button->setEnabled(static_cast<bool>(row.effect));
-    QObject::connect(button, &QPushButton::clicked, button, [row, prompts = &prompts_] {
+QLabel* PageBuilder::makeNote() {
+    auto* note = named(new QLabel, "lbElmentve");
+    note->setMinimumWidth(note->fontMetrics().horizontalAdvance(savedAt({0, 0, 0})) + 8); // nothing moves when it comes
+    note->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    QObject::connect(page_, &SetupPage::edited, note, &QLabel::clear);
+    return note;
+}
+
+QPushButton* PageBuilder::makeSave(const SaveRow& row, QLabel* note) {
+    QPushButton* button = makeButton(row.name, row.caption);
+    QObject::connect(button, &QPushButton::clicked, button, [row, note, prompts = &prompts_] {
         const Message question{Icon::question, QString::fromUtf16(row.question.title),
                                QString::fromUtf16(row.question.text)};
         if (row.question.title && prompts->ask(question) == Answer::no) return;
-        if (row.effect()) return;
+        if (row.save()) {
+            note->setText(savedAt(QTime::currentTime()));
+            return;
+        }
+        note->clear(); // of an earlier save
         prompts->tell({Icon::critical, titles::error,
                        QStringLiteral("A beállításokat nem sikerült elmenteni!\n"
                                       "Ellenőrizd, hogy a program mappája írható-e!")});

@@ -49,25 +49,23 @@ QWidget* pinkCheckPage(const SetupContext& context) {
     PageBuilder page(context);
     RecordBoxes<SetRcsekk> layout(context.folder);
     RecordBoxes<SetRcsekk> addressee(context.folder);
-    QGroupBox* frontFrame = page.frame<SetRcsekk>({nullptr, u"Első oldal nyomtatási beállításai", 2}, front, layout);
-    QGroupBox* backFrame = page.frame<SetRcsekk>({"Frame7", u"Hátoldal nyomtatási beállításai", 2}, back, layout);
+    BoxFrame* frontFrame = page.frame<SetRcsekk>({nullptr, u"Első oldal nyomtatási beállításai", 2}, front, layout);
+    BoxFrame* backFrame = page.frame<SetRcsekk>({"Frame7", u"Hátoldal nyomtatási beállításai", 2}, back, layout);
     page.place(page.swapped({"Command4", u"Hátoldal beállításai", u"Első oldal beállításai"}, frontFrame, backFrame),
                {0, 0});
     page.place(page.frame<SetRcsekk>({nullptr, u"Betűk", 2}, letters, layout), {1, 0});
-    QGroupBox* addresseeFrame = page.frame<SetRcsekk>({"Frame1_1", u"Címzett adatai:"}, fixedAddressee, addressee);
-    page.addButton(addresseeFrame, {"cmdRcsekkCimzettMent",
-                                    u"&Mentés",
-                                    {u" Mentés ", u"Biztos menthető a címzett adatai?"},
-                                    [addressee] { return addressee.store(); }});
+    BoxFrame* addresseeFrame = page.frame<SetRcsekk>({"Frame1_1", u"Címzett adatai:"}, fixedAddressee, addressee);
+    page.addSave(*addresseeFrame,
+                 {"cmdRcsekkCimzettMent", u"&Mentés", {u" Mentés ", u"Biztos menthető a címzett adatai?"}, [addressee] {
+                      return addressee.store();
+                  }});
     page.place(addresseeFrame, {0, 1});
 
-    page.addButton(ButtonSide::right,
-                   {"cmdRCsekkAlapertelm",
-                    u"&Alapértelmezettre visszaállítás",
-                    {u" Módosítás ", u"Biztos visszaállítod a beállításokat\naz alapértelmezett értékekre?"},
-                    [layout] { return layout.restoreFactory(); }});
-    page.addButton(ButtonSide::right,
-                   {"cmdRCsekkMentes", u"&Beállítások mentése", changeQuestion, [layout] { return layout.store(); }});
+    page.addSave({"cmdRCsekkAlapertelm",
+                  u"&Alapértelmezettre visszaállítás",
+                  {u" Módosítás ", u"Biztos visszaállítod a beállításokat\naz alapértelmezett értékekre?"},
+                  [layout] { return layout.restoreFactory(); }});
+    page.addSave({"cmdRCsekkMentes", u"&Beállítások mentése", changeQuestion, [layout] { return layout.store(); }});
     layout.fill();
     addressee.fill();
     return page.finish();

@@ -1,25 +1,17 @@
 #include "settings/setup/setting_boxes.h"
 
 #include "controls/entry_combo.h"
+#include "controls/named.h"
+#include "settings/setup/number_box.h"
 
 #include <QCheckBox>
-#include <QLineEdit>
-
-QValidator::State PointValidator::validate(QString& input, int&) const {
-    input.replace(u',', u'.');
-    return Acceptable;
-}
+#include <QRadioButton>
 
 namespace {
 
-QLineEdit* makeNumberBox(QWidget* parent) {
-    auto* box = new QLineEdit(parent);
-    box->setValidator(new PointValidator(box));
-    box->setFixedWidth(box->fontMetrics().horizontalAdvance(QStringLiteral("-0000.0000")));
-    return box;
-}
+QWidget* makeNumberBox(const BoxLook&, const QStringList&, QWidget* parent) { return new NumberBox(parent); }
 
-QLineEdit* makeTextBox(const BoxLook& look, QWidget* parent) {
+QWidget* makeTextBox(const BoxLook& look, const QStringList&, QWidget* parent) {
     auto* box = new QLineEdit(parent);
     box->setMaxLength(look.maxLength);
     const int letters = std::min(look.maxLength, 25);
@@ -27,7 +19,7 @@ QLineEdit* makeTextBox(const BoxLook& look, QWidget* parent) {
     return box;
 }
 
-QComboBox* makeFontBox(const QStringList& fonts, QWidget* parent) {
+QWidget* makeFontBox(const BoxLook&, const QStringList& fonts, QWidget* parent) {
     auto* box = new EntryCombo(parent);
     box->setMinimumContentsLength(16);
     box->setMaxVisibleItems(20);
@@ -35,37 +27,41 @@ QComboBox* makeFontBox(const QStringList& fonts, QWidget* parent) {
     return box;
 }
 
-QWidget* makeUnnamedBox(const BoxLook& look, const QStringList& fonts, QWidget* parent) {
-    switch (look.kind) {
-    case BoxKind::font:
-        return makeFontBox(fonts, parent);
-    case BoxKind::tick:
-        return new QCheckBox(QString::fromUtf16(look.label), parent);
-    case BoxKind::text:
-        return makeTextBox(look, parent);
-    case BoxKind::number:
-        break;
-    }
-    return makeNumberBox(parent);
+template<class Button>
+QWidget* makeButtonBox(const BoxLook& look, const QStringList&, QWidget* parent) {
+    return new Button(QString::fromUtf16(look.label), parent);
+}
+
+QString lineText(const QWidget& box) { return static_cast<const QLineEdit&>(box).text(); }
+void showLine(QWidget& box, const QString& text) { static_cast<QLineEdit&>(box).setText(text); }
+void onLineEdit(QWidget& box, std::function<void()> edited) {
+    QObject::connect(&static_cast<QLineEdit&>(box), &QLineEdit::textChanged, &box, std::move(edited));
+}
+
+QString comboText(const QWidget& box) { return static_cast<const EntryCombo&>(box).currentText(); }
+void showCombo(QWidget& box, const QString& text) { static_cast<EntryCombo&>(box).showText(text); }
+void onComboEdit(QWidget& box, std::function<void()> edited) {
+    QObject::connect(&static_cast<EntryCombo&>(box), &QComboBox::editTextChanged, &box, std::move(edited));
+}
+
+QString buttonText(const QWidget& box) {
+    return field_text::showTick(static_cast<const QAbstractButton&>(box).isChecked());
+}
+void showButton(QWidget& box, const QString& text) {
+    static_cast<QAbstractButton&>(box).setChecked(field_text::isTicked(text));
+}
+void onButtonEdit(QWidget& box, std::function<void()> edited) {
+    QObject::connect(&static_cast<QAbstractButton&>(box), &QAbstractButton::toggled, &box, std::move(edited));
 }
 
 } // namespace
 
+const BoxKind numberBox{makeNumberBox, lineText, showLine, onLineEdit};
+const BoxKind textBox{makeTextBox, lineText, showLine, onLineEdit, true, true};
+const BoxKind fontBox{makeFontBox, comboText, showCombo, onComboEdit, true, true};
+const BoxKind tickBox{makeButtonBox<QCheckBox>, buttonText, showButton, onButtonEdit, false};
+const BoxKind optionBox{makeButtonBox<QRadioButton>, buttonText, showButton, onButtonEdit, false};
+
 QWidget* makeBox(const BoxLook& look, const QStringList& fonts, QWidget* parent) {
-    QWidget* box = makeUnnamedBox(look, fonts, parent);
-    box->setObjectName(QString::fromLatin1(look.name));
-    box->setToolTip(QString::fromUtf16(look.toolTip));
-    return box;
-}
-
-QString boxText(const QWidget& box) {
-    if (const auto* tickBox = qobject_cast<const QCheckBox*>(&box)) return field_text::showTick(tickBox->isChecked());
-    if (const auto* fontBox = qobject_cast<const QComboBox*>(&box)) return fontBox->currentText();
-    return qobject_cast<const QLineEdit*>(&box)->text();
-}
-
-void setBoxText(QWidget& box, const QString& text) {
-    if (auto* tickBox = qobject_cast<QCheckBox*>(&box)) return tickBox->setChecked(field_text::isTicked(text));
-    if (auto* fontBox = qobject_cast<EntryCombo*>(&box)) return fontBox->showText(text);
-    qobject_cast<QLineEdit*>(&box)->setText(text);
+    return named(look.kind->make(look, fonts, parent), look.name, QString::fromUtf16(look.toolTip));
 }

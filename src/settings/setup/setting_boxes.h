@@ -2,21 +2,22 @@
 
 #include "settings/setup/box_rows.h"
 
-#include <QValidator>
+#include <QStringList>
 
-#include <vector>
+#include <functional>
 
-// Takes any text, since the leading number counts, but turns a comma into the point that numbers are read by.
-class PointValidator : public QValidator {
-    Q_OBJECT
-public:
-    using QValidator::QValidator;
-    State validate(QString& input, int& cursor) const override;
+class QWidget;
+
+// What sets the boxes of a page apart: how one is made, read, filled and watched. makeBox adds name and tooltip; what
+// is watched are the user's edits, with or without those of `show`.
+struct BoxKind {
+    QWidget* (*make)(const BoxLook& look, const QStringList& fonts, QWidget* parent);
+    QString (*text)(const QWidget& box);
+    void (*show)(QWidget& box, const QString& text);
+    void (*onEdit)(QWidget& box, std::function<void()> edited);
+    bool isTyped = true; // beside its label, and what is typed may be stored rounded or cut; else a tick or an option
+    bool isWide = false; // takes the room that is left over
 };
 
-// The widget of a row, with the row's name. A tick carries its label as caption.
+// The widget of a row, with the row's name and tooltip.
 QWidget* makeBox(const BoxLook& look, const QStringList& fonts, QWidget* parent);
-
-// What stands in a box made by makeBox.
-QString boxText(const QWidget& box);
-void setBoxText(QWidget& box, const QString& text);

@@ -1,15 +1,14 @@
 #pragma once
 
+#include "controls/dialog.h"
 #include "prompts/prompts.h"
 #include "records/program_folder.h"
-
-#include <QDialog>
 
 class QTabWidget;
 
 // "Beállítások": every printing position, font and size, a page for each form. A page stores by its own buttons only;
 // closing the dialog stores nothing. Show it with exec().
-class frmSetup : public QDialog {
+class frmSetup : public Dialog {
     Q_OBJECT
 public:
     // `fonts` are those of the current print device. `setupOldal` is the page to open on, 0 to 6; one that isn't there
@@ -19,7 +18,6 @@ public:
 
 private:
     void addPages(const ProgramFolder& folder, Prompts& prompts, const QStringList& fonts, int setupOldal);
-    void centre();
 
     QTabWidget* SSTab1_;
 };

@@ -46,7 +46,7 @@ bool isAnyPrinted(const Set& set) {
 // What prints, as stored. A record in which nobody ever chose anything shows every item ticked.
 template<std::size_t item>
 constexpr BoxRow<Set> printed(const char* name, const char16_t* label) {
-    return {{name, label, BoxKind::tick, Restore::no},
+    return {{name, label, &tickBox, Restore::no},
             [](const Set& set) {
                 const bool untouched = !set.chkNyomtatandoKilepes && !isAnyPrinted(set);
                 return field_text::showTick(untouched || set.chkNyomtatando[item]);
@@ -56,7 +56,7 @@ constexpr BoxRow<Set> printed(const char* name, const char16_t* label) {
 
 // This box drives the gate by which the exit stores the receipt entries, and shows as unticked while that is closed.
 constexpr BoxRow<Set> keptAtExit(const char* name, const char16_t* label) {
-    return {{name, label, BoxKind::tick, Restore::no},
+    return {{name, label, &tickBox, Restore::no},
             [](const Set& set) {
                 return field_text::showTick(set.chkNyomtatandoKilepes && set.chkNyomtatando[keepAtExit]);
             },
@@ -94,15 +94,13 @@ QWidget* yellowCheckPage(const SetupContext& context) {
     page.place(page.frame<Set>({"frmNyomtatando", u"Nyomtatandó adatok a csekkre"}, printedItems, boxes), {0, 1});
     page.place(page.frame<Set>({"Frame8", u"Kijelölés a listamezőben"}, deadline, boxes), {1, 1});
 
-    page.addButton(ButtonSide::left, {"cmdJogcim", u"&Jogcím szövegek felvétele", {}, {}});
-    page.addButton(ButtonSide::left, {"cmdKozlemeny", u"&Közlemény szövegek felvétele", {}, {}});
-    page.addButton(ButtonSide::right,
-                   {"Command2",
-                    u"&Alapértelmezettre visszaállítás",
-                    {u" Módosítás ", u"Biztos módosítod a beállításokat\naz alapértelmezett értékekre?"},
-                    [boxes] { return boxes.restoreFactory(); }});
-    page.addButton(ButtonSide::right,
-                   {"Command1", u"&Beállítások mentése", changeQuestion, [boxes] { return boxes.store(); }});
+    page.addLink({"cmdJogcim", u"&Jogcím szövegek felvétele", {}});
+    page.addLink({"cmdKozlemeny", u"&Közlemény szövegek felvétele", {}});
+    page.addSave({"Command2",
+                  u"&Alapértelmezettre visszaállítás",
+                  {u" Módosítás ", u"Biztos módosítod a beállításokat\naz alapértelmezett értékekre?"},
+                  [boxes] { return boxes.restoreFactory(); }});
+    page.addSave({"Command1", u"&Beállítások mentése", changeQuestion, [boxes] { return boxes.store(); }});
     boxes.fill();
     return page.finish();
 }
