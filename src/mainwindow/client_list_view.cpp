@@ -1,5 +1,7 @@
 #include "mainwindow/client_list_view.h"
 
+#include "controls/named.h"
+
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -22,8 +24,7 @@ public:
 } // namespace
 
 ClientListView::ClientListView(QWidget* parent) : QTreeView(parent) {
-    setObjectName(QStringLiteral("ListView1"));
-    setToolTip(QStringLiteral("''Delete\" -  kijelöltek törlése a listából"));
+    named(this, "ListView1", QStringLiteral("''Delete\" -  kijelöltek törlése a listából"));
     setSelectionMode(ExtendedSelection);
     setSelectionBehavior(SelectRows);
     setItemDelegate(new RoomyRows(this));

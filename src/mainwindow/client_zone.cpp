@@ -1,5 +1,7 @@
 #include "mainwindow/client_zone.h"
 
+#include "controls/named.h"
+
 #include <QCheckBox>
 #include <QGridLayout>
 #include <QHeaderView>
@@ -12,9 +14,8 @@ ClientZone::ClientZone(const ProgramFolder& folder, QWidget* parent)
     , view_(new ClientListView)
     , order_(new QCheckBox(QStringLiteral("Lista sorrend növekedő")))
     , count_(new QLabel) {
-    order_->setObjectName(QStringLiteral("chkListaSorren"));
-    count_->setObjectName(QStringLiteral("lbKijelolve"));
-    count_->setToolTip(QStringLiteral("Ennyi ügyfél van kijelölve"));
+    named(order_, "chkListaSorren");
+    named(count_, "lbKijelolve", QStringLiteral("Ennyi ügyfél van kijelölve"));
     count_->setAlignment(Qt::AlignCenter);
     view_->setModel(&model_);
     setFocusProxy(view_);
@@ -57,9 +58,8 @@ QWidget* ClientZone::buildSide() {
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setSpacing(4);
     for (const Button& row : buttons) {
-        auto* button = new QPushButton(QString::fromUtf16(row.caption));
-        button->setObjectName(QLatin1String(row.name));
-        button->setToolTip(QString::fromUtf16(row.tooltip));
+        auto* button =
+            named(new QPushButton(QString::fromUtf16(row.caption)), row.name, QString::fromUtf16(row.tooltip));
         button->setEnabled(row.enabled);
         if (row.press != nullptr) connect(button, &QPushButton::clicked, this, row.press);
         grid->addWidget(button, row.row, row.column, 1, row.columns);

@@ -1,6 +1,7 @@
 #include "mainwindow/print_panel.h"
 
 #include "controls/entry_combo.h"
+#include "controls/named.h"
 #include "mainwindow/print_button.h"
 #include "records/record_file.h"
 #include "settings/general_settings.h"
@@ -40,12 +41,6 @@ protected:
     }
 };
 
-template<class Widget>
-Widget* named(const char* name, Widget* widget) {
-    widget->setObjectName(QLatin1String(name));
-    return widget;
-}
-
 } // namespace
 
 // Takes the room that is left, down to a size that still tells how the paper lies.
@@ -84,10 +79,10 @@ private:
 PrintPanel::PrintPanel(const ProgramFolder& folder, QWidget* parent)
     : QGroupBox(u"Nyomtatás"_s, parent)
     , folder_(folder)
-    , print_(named("cmdPrint", new PrintButton(u"&Nyomtatás"_s)))
-    , batch_(named("cmdCsPrint", new PrintButton(u"&Csoportos Nyomtatás"_s)))
-    , sample_(named("Picture2", new SamplePicture))
-    , deviceName_(named("lbNyomtato", new QLabel)) {
+    , print_(named(new PrintButton(u"&Nyomtatás"_s), "cmdPrint"))
+    , batch_(named(new PrintButton(u"&Csoportos Nyomtatás"_s), "cmdCsPrint"))
+    , sample_(named(new SamplePicture, "Picture2"))
+    , deviceName_(named(new QLabel, "lbNyomtato")) {
     setObjectName(u"Frame1"_s);
     batch_->hide();
     for (PrintButton* button : {print_, batch_})
@@ -112,8 +107,8 @@ PrintPanel::PrintPanel(const ProgramFolder& folder, QWidget* parent)
 
 // A group for each pair: options that only share a parent would lose their mark together.
 QLayout* PrintPanel::buildFeeds() {
-    upright_ = named("OpOrientacioAllo", new QRadioButton(u"Álló"_s));
-    sideways_ = named("OpOrientacioFekvo", new QRadioButton(u"Fekvő"_s));
+    upright_ = named(new QRadioButton(u"Álló"_s), "OpOrientacioAllo");
+    sideways_ = named(new QRadioButton(u"Fekvő"_s), "OpOrientacioFekvo");
     upright_->setChecked(true);
     auto* group = new QButtonGroup(this);
     auto* row = new QHBoxLayout;
@@ -127,16 +122,16 @@ QLayout* PrintPanel::buildFeeds() {
 }
 
 QWidget* PrintPanel::buildDeviceChoice() {
-    auto* frame = named("Frame10", new QWidget);
-    chosenDevice_ = named("opPrinter_0", new QRadioButton(u"Kijelölt nyomtató használata"_s));
-    systemDevice_ = named("opPrinter_1", new TwoLineOption(u"Windows alapértelmezett nyomtató használata"_s));
+    auto* frame = named(new QWidget, "Frame10");
+    chosenDevice_ = named(new QRadioButton(u"Kijelölt nyomtató használata"_s), "opPrinter_0");
+    systemDevice_ = named(new TwoLineOption(u"Windows alapértelmezett nyomtató használata"_s), "opPrinter_1");
     chosenDevice_->setChecked(true);
     auto* group = new QButtonGroup(this);
     group->addButton(chosenDevice_);
     group->addButton(systemDevice_);
-    printers_ = named("Combo2", new SteadyCombo);
+    printers_ = named(new SteadyCombo, "Combo2");
     printers_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    printNo_ = named("lbPrintNo", new QLabel);
+    printNo_ = named(new QLabel, "lbPrintNo");
     printNo_->hide();
     auto* layout = new QVBoxLayout(frame);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -1,8 +1,8 @@
 #include "mainwindow/tab_strip.h"
 
+#include "controls/page_scroll.h"
 #include "mainwindow/catalogue_lists.h"
 #include "mainwindow/form_views.h"
-#include "mainwindow/tab_scroll.h"
 #include "settings/general_settings.h"
 
 #include <QDate>
@@ -32,7 +32,7 @@ TabStrip::TabStrip(FormTabs& tabs, const FormContext& context) : tabs_(tabs), co
         BoundView* view = row.make(tabs, context);
         if (auto* form = qobject_cast<FormView*>(view)) form->page()->setObjectName(QLatin1String(row.page));
         views_.push_back(view);
-        addTab(new TabScroll(view), QString::fromUtf16(row.caption));
+        addTab(new PageScroll(view), QString::fromUtf16(row.caption));
     }
     yellowCheck_ = findChild<YellowCheckView*>();
     labels_ = findChild<LabelView*>();

@@ -1,31 +1,17 @@
 #include "settings/setup/page_builder.h"
 
 #include "controls/named.h"
+#include "controls/page_scroll.h"
 #include "prompts/titles.h"
 #include "settings/setup/button_bar.h"
 
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QStackedWidget>
 #include <QTime>
 
 namespace {
-
-// Wants the whole of what it scrolls; a scroll area of the toolkit would open at a size of its own.
-class PageScroll : public QScrollArea {
-public:
-    explicit PageScroll(QWidget* content) {
-        setWidgetResizable(true);
-        setFrameShape(NoFrame);
-        setFocusPolicy(Qt::NoFocus);
-        setWidget(content);
-        viewport()->setAutoFillBackground(false);
-        content->setAutoFillBackground(false); // the page looks like the tab that it stands in
-    }
-    QSize sizeHint() const override { return widget()->sizeHint(); }
-};
 
 QLabel* makeUnit(QWidget* parent) {
     auto* unit = new QLabel(QStringLiteral("mm"), parent);
