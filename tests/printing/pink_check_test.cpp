@@ -1,6 +1,7 @@
 #include "printing/pink_check.h"
 
 #include "check_fixture.h"
+#include "printing/yellow_check.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -122,10 +123,43 @@ TEST_F(PinkCheck, FlagsLeaveTheirRowsOut) {
     EXPECT_TRUE(lines().contains(u"0 56 T| "_s));
     EXPECT_TRUE(lines().contains(u"75 60 T|1024 Budapest, Fő utca 1."_s));
     set.chkNyomtatando.fill(false); // the addressee prints without any
+    set.chkNyomtatando[6] = true;   // keeps the ticks, prints nothing
     storeSettings();
     const PrintOutcome outcome = PrintAlloRCsekk(desk, tabs, {});
     EXPECT_EQ(outcome.pages, 1);
     EXPECT_EQ(outcome.trouble, u"A Beállításokban egyetlen nyomtatandó adat sincs kipipálva!"_s);
+}
+
+TEST_F(PinkCheck, AnEmptyAddresseePrintsAndIsTold) {
+    const QString told = u"A címzett adatai üresek."_s;
+    EXPECT_EQ(print(PrintCsAlloRcsekk, {1}).trouble, QString());
+    tab.RlbNev = tab.RlbHelys = tab.RlbCim = u"  "_s;
+    EXPECT_EQ(PrintAlloRCsekk(desk, tabs, {}).trouble, QString());
+    tab.RlbIrsz.clear();
+    for (const Batch single : {PrintAlloRCsekk, PrintFekvoRCsekk}) {
+        const PrintOutcome outcome = single(desk, tabs, {});
+        EXPECT_EQ(std::tuple(outcome.pages, outcome.trouble), std::tuple(1, told));
+    }
+    EXPECT_EQ(print(PrintCsAlloRcsekk, {1, 2}).trouble, told); // the fixed addressee
+    tab.opAllando = FixedParty::sender;
+    EXPECT_EQ(print(PrintCsFekvoRcsekk, {1, 2}).trouble, QString());
+    addClient(zeroRecord<ClientRec>());
+    EXPECT_EQ(print(PrintCsFekvoRcsekk, {1, 3}).trouble, told);
+    tab.side = Side::back;
+    EXPECT_EQ(print(PrintCsAlloRcsekk, {3}).trouble, QString());
+}
+
+TEST_F(PinkCheck, TheDefaultPrinterBeginsWithItsOwnPage) {
+    set.opPrinter_1 = true;
+    storeSettings();
+    for (const Batch sideways : {PrintFekvoRCsekk, PrintCsFekvoRcsekk}) {
+        tabs.yellowCheck.txNev = u"Kiss Éva"_s;
+        PrintAlloCsekk(desk, tabs, {});
+        ASSERT_EQ(lastSetup(), uprightSheet);
+        print(sideways, {1});
+        EXPECT_EQ(lastSetup(), PageSetup());
+        prompts.printerChoices.clear();
+    }
 }
 
 TEST_F(PinkCheck, ErrorsAndCancelDropTheJobAndAreTold) {
