@@ -24,7 +24,7 @@ public:
     // In a PDF the pages stand once for each copy. DeviceError 9, 18, 482.
     void deliver(const PrintJob& job, int printer) override;
     // Can be stopped but on a native Windows printer.
-    void watchDelivery(DeliveryProgress progress) override { watch_ = std::move(progress); }
+    void watchDelivery(const DeliveryProgress& progress) override { watch_ = progress; }
 
     // Full path of the file that the last job on the PDF device became; empty before.
     const QString& lastPdf() const { return lastPdf_; }

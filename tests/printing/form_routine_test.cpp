@@ -21,6 +21,7 @@ protected:
                         .failureWay = FailureWay::silent,
                         .page = dlLandscape,
                         .noun = u"lap"};
+    int clientsPrinted = 0;
 
     FormRoutineTest() {
         for (const int amount : {1500, 0, 10000000, 9999999, 0, -3})
@@ -28,7 +29,8 @@ protected:
     }
 
     PrintOutcome printNumbers(const std::vector<int>& numbers) {
-        return printEach(desk, routine, {{6, 5}, numbers}, [](Pen& pen, const Set&, const Client& client) {
+        return printEach(desk, routine, {{6, 5}, numbers}, [this](Pen& pen, const Set&, const Client& client) {
+            ++clientsPrinted;
             pen.SetFont(u"Arial CE"_s, 10);
             pen.PlaceText(1, 1, client.client.Nev.trimmed());
         });
@@ -104,6 +106,8 @@ TEST_F(FormRoutineTest, TheUserStopsAJobAtAnyPageOfEitherStage) {
                       whole ? std::tuple(2, QString()) : std::tuple(0, stopped));
             EXPECT_EQ(service.delivered.size(), whole ? 1U : 0U);
             EXPECT_EQ(device.pageCount(), 0);
+            service.deliver({u"x"_s, {PrintedPage{}}}, 0); // nobody listens any more
+            EXPECT_EQ(seen.size(), whole ? stages.size() : last + 1);
         }
     }
     EXPECT_TRUE(prompts.told.empty());
@@ -122,8 +126,10 @@ TEST_F(FormRoutineTest, NoPageHasAReason) {
     EXPECT_TRUE(service.delivered.empty());
     // A number that no record has never prints somebody else, even where failed steps are passed over.
     routine.failureWay = FailureWay::passOver;
+    clientsPrinted = 0;
     const PrintOutcome passed = printNumbers({1, 40000, 4});
     EXPECT_EQ(std::tuple(passed.pages, passed.trouble), std::tuple(2, u"Túlcsordulás"_s));
+    EXPECT_EQ(clientsPrinted, 2);
 }
 
 TEST_F(FormRoutineTest, ThePageIsSetUpOnceOrForEachClient) {

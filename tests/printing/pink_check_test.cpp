@@ -84,6 +84,7 @@ TEST_F(PinkCheck, UprightBatchWithAFixedAddressee) {
               "75 46 T|*Egymilliókettőszázharmincnégyezer-; 75 52 T|ötszázhatvanhét*; 75 15 T|Nagy Áron; "
               "75 19 T|1024   Budapest,Fő utca 1.; 9 61 B|Címzett Zrt.; 9 65.80 B|Győr; 9 70.60 B|Duna út 9.; "
               "9 77 B|9021; 147 61 B|Címzett Zrt.; 147 65.80 B|Győr; 147 70.60 B|Duna út 9.; 147 77 B|9021");
+    EXPECT_EQ(prompts.summaries.back(), u"2 csekk, ebből 1 összeg nélkül"_s);
     // An amount of 0 prints as such.
     EXPECT_EQ(page(1, u"*"_s), "15 7 A|***0***; 80 7 A|***0***; 80 36 A|***0***; 11 17 T|**; 75 46 T|**");
     EXPECT_EQ(page(1, u"Nulla"_s), "75 15 T|Nulla Ödön");
@@ -106,6 +107,7 @@ TEST_F(PinkCheck, UprightBatchOfBacks) {
     set.chkNyomtatando.fill(false); // nothing of this rules the back
     storeSettings();
     EXPECT_EQ(print(PrintCsAlloRcsekk, {1, 2}).trouble, QString());
+    EXPECT_EQ(prompts.summaries.back(), u"2 csekk"_s);
     EXPECT_EQ(page(1), "86 61 T|Nulla Ödön; 86 65 T|Budapest; 86 69 T|Fő utca 1.; 0 73 T| ; 86 77 T|1024; "
                        "79 5 T|egy; 79 9 T|kettő; 79 17 T|négy");
 

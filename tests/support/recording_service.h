@@ -29,7 +29,7 @@ public:
     }
     float lineHeight(const Font& font) override { return font.size * 0.4F; }
     void deliver(const PrintJob& job, int printer) override;
-    void watchDelivery(DeliveryProgress progress) override { watch_ = std::move(progress); }
+    void watchDelivery(const DeliveryProgress& progress) override { watch_ = progress; }
 
 private:
     DeliveryProgress watch_;
