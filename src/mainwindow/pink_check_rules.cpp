@@ -3,6 +3,8 @@
 #include "mainwindow/tab_words.h"
 #include "printing/form_text.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 // On the front the sender's address is one line, on the back it is in parts.
@@ -51,13 +53,13 @@ void reload(PinkCheckTab& tab, const SetRcsekk& set) {
     if (tab.opAllando == FixedParty::addressee)
         setAddressee(tab, fixed);
     else
-        setSender(tab, fixed, addressLine(fixed, QStringLiteral(", ")));
+        setSender(tab, fixed, addressLine(fixed, u", "_s));
 }
 
 void showClient(PinkCheckTab& tab, const ClientRec& client) {
     const Party party{client.Nev.stored(), client.Helyseg.trimmed(), client.Cim.stored(), client.Irsz.stored()};
     if (tab.opAllando == FixedParty::addressee)
-        setSender(tab, party, addressLine(party, QStringLiteral(", ")));
+        setSender(tab, party, addressLine(party, u", "_s));
     else
         setAddressee(tab, party);
 }

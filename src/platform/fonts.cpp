@@ -1,5 +1,7 @@
 #include "platform/fonts.h"
 
+#include "records/stored_types.h"
+
 #include <QFontDatabase>
 
 #include <algorithm>
@@ -22,6 +24,10 @@ constexpr Substitute substitutes[] = {
 // Names of the Central European halves of old fonts, offered because the factory settings bear them.
 constexpr QLatin1StringView oldNames[] = {"Arial CE"_L1, "Times New Roman CE"_L1};
 
+// Widths of the fields that hold font names: of the forms, and of the labels.
+constexpr qsizetype formFontWidth = 25;
+constexpr qsizetype labelFontWidth = 30;
+
 // More fonts than any set of forms uses; beyond it the book starts anew.
 constexpr std::size_t mostFaces = 64;
 
@@ -30,6 +36,13 @@ QString withoutTrailingBlanks(const QString& name) {
     while (length > 0 && name[length - 1] == u' ')
         --length;
     return name.left(length);
+}
+
+bool sameName(const QString& a, const QString& b) { return a.compare(b, Qt::CaseInsensitive) == 0; }
+
+// Whether a field of this width has cut `family` down to `name`.
+bool isCutTo(const QString& name, const QString& family, qsizetype width) {
+    return family.size() > width && sameName(withoutTrailingBlanks(family.left(width)), name);
 }
 
 QString withoutCe(const QString& name) {
@@ -53,8 +66,17 @@ FontBook::FontBook(QStringList installed) : installed_(std::move(installed)) {}
 
 std::optional<QString> FontBook::installedName(const QString& name) const {
     const auto at = std::find_if(installed_.begin(), installed_.end(),
-                                 [&](const QString& family) { return family.compare(name, Qt::CaseInsensitive) == 0; });
+                                 [&](const QString& family) { return sameName(family, name); });
     return at == installed_.end() ? std::nullopt : std::optional(*at);
+}
+
+std::optional<QString> FontBook::cutName(const QString& name) const {
+    const auto isCut = [&](const QString& family) {
+        return isCutTo(name, family, formFontWidth) || isCutTo(name, family, labelFontWidth);
+    };
+    const auto at = std::find_if(installed_.begin(), installed_.end(), isCut);
+    if (at == installed_.end() || std::any_of(at + 1, installed_.end(), isCut)) return std::nullopt;
+    return *at;
 }
 
 std::optional<QString> FontBook::familyFor(const QString& name) const {
@@ -63,12 +85,20 @@ std::optional<QString> FontBook::familyFor(const QString& name) const {
     const QString plain = withoutCe(full);
     if (auto itself = installedName(plain)) return itself;
     for (const Substitute& substitute : substitutes)
-        if (plain.compare(substitute.asked, Qt::CaseInsensitive) == 0) return installedName(substitute.serves);
-    return std::nullopt;
+        if (sameName(plain, substitute.asked)) return installedName(substitute.serves);
+    return cutName(full);
+}
+
+// Comes back as the same family from either field: neither its letters nor its length get lost.
+bool FontBook::isStorable(const QString& family) const {
+    return familyFor(Text<formFontWidth>(family).stored()) == family &&
+           familyFor(Text<labelFontWidth>(family).stored()) == family;
 }
 
 QStringList FontBook::names() const {
-    QStringList all = installed_;
+    QStringList all;
+    std::copy_if(installed_.begin(), installed_.end(), std::back_inserter(all),
+                 [this](const QString& family) { return isStorable(family); });
     for (const QLatin1StringView name : oldNames)
         if (familyFor(name) && !all.contains(name, Qt::CaseInsensitive)) all.append(name);
     all.sort(Qt::CaseInsensitive);

@@ -24,9 +24,11 @@ public:
     explicit FontBook(QStringList installed);
 
     // Installed family that serves `name`: itself or, where the system doesn't have it, the one of the same metrics.
-    // Trailing blanks and the ending " CE" don't count, nor does the letters' case. Nothing if the name is unknown.
+    // Trailing blanks and the ending " CE" don't count, nor does the letters' case. A name that a record has cut stands
+    // for the one family that begins with it. Nothing if the name is unknown.
     std::optional<QString> familyFor(const QString& name) const;
-    // Names to choose from: the installed families and the old names that are served, in alphabetical order.
+    // Names to choose from: the installed families that a record can tell from each other, and the old names that are
+    // served, in alphabetical order.
     QStringList names() const;
 
     // Font and metrics in paper units.
@@ -44,6 +46,8 @@ private:
     };
 
     std::optional<QString> installedName(const QString& name) const;
+    std::optional<QString> cutName(const QString& name) const;
+    bool isStorable(const QString& family) const;
 
     QStringList installed_;
     std::vector<Entry> faces_;

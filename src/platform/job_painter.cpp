@@ -1,5 +1,6 @@
 #include "platform/job_painter.h"
 
+#include "platform/spooler.h"
 #include "printing/print_service.h"
 
 #include <QPainter>
@@ -7,22 +8,26 @@
 
 #include <optional>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 class JobPainter {
 public:
-    JobPainter(QPagedPaintDevice& device, FontBook& fonts, const PaperOffer& offer)
+    JobPainter(QPagedPaintDevice& device, FontBook& fonts, const PaperOffer& offer, const PagePainted& painted)
         : device_(device)
         , fonts_(fonts)
-        , offer_(offer) {}
+        , offer_(offer)
+        , painted_(painted) {}
 
     void paint(const PrintJob& job) {
-        for (const PrintedPage& page : job.pages) {
+        for (int number = 0; const PrintedPage& page : job.pages) {
             startPage(page.setup);
             for (const PlacedItem& item : page.items)
                 std::visit([this](const auto& placed) { paint(placed); }, item);
+            if (painted_ && !painted_(++number, static_cast<int>(job.pages.size()))) drop(stoppedByUser());
         }
-        if (painter_.isActive() && !painter_.end()) fail(QStringLiteral("A nyomtatást nem sikerült befejezni."));
+        if (painter_.isActive() && !painter_.end()) fail(u"A nyomtatást nem sikerült befejezni."_s);
     }
 
 private:
@@ -32,9 +37,9 @@ private:
         setup_ = setup;
         // begin() opens the first page by itself, so it has to wait for one.
         if (!painter_.isActive()) {
-            if (!painter_.begin(&device_)) fail(QStringLiteral("A nyomtatást nem sikerült elindítani."));
+            if (!painter_.begin(&device_)) fail(u"A nyomtatást nem sikerült elindítani."_s);
         } else if (!device_.newPage()) {
-            fail(QStringLiteral("A nyomtató nem kezdett új lapot."));
+            fail(u"A nyomtató nem kezdett új lapot."_s);
         }
         // From paper units to the device's dots; never by the page rectangle, which is held in whole points. All that
         // is painted passes through this one transform.
@@ -69,14 +74,21 @@ private:
 
     static QPointF at(float x, float y) { return QPointF(x, y) * paperUnitsPerMm; }
 
-    [[noreturn]] void fail(const QString& description) {
+    [[noreturn]] void fail(const QString& description) { drop({482, description}); }
+
+    // Nothing of the job may come out. Where the toolkit spools, abort() does nothing, and the painter's end would hand
+    // over what has been painted.
+    [[noreturn]] void drop(const DeviceError& reason) {
+        const ShutSpooler shut;
         if (auto* printer = dynamic_cast<QPrinter*>(&device_)) printer->abort();
-        throw DeviceError(482, description);
+        if (painter_.isActive()) painter_.end();
+        throw reason;
     }
 
     QPagedPaintDevice& device_;
     FontBook& fonts_;
     const PaperOffer& offer_;
+    const PagePainted& painted_;
     QPainter painter_;
     std::optional<PageSetup> setup_;
     std::optional<Font> font_;
@@ -84,6 +96,7 @@ private:
 
 } // namespace
 
-void paintJob(const PrintJob& job, QPagedPaintDevice& device, FontBook& fonts, const PaperOffer& offer) {
-    JobPainter(device, fonts, offer).paint(job);
+void paintJob(const PrintJob& job, QPagedPaintDevice& device, FontBook& fonts, const PaperOffer& offer,
+              const PagePainted& painted) {
+    JobPainter(device, fonts, offer, painted).paint(job);
 }

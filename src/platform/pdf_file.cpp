@@ -1,6 +1,5 @@
 #include "platform/pdf_file.h"
 
-#include "platform/job_painter.h"
 #include "printing/print_service.h"
 
 #include <QBuffer>
@@ -42,7 +41,7 @@ void correctBoxes(QByteArray& pdf, const std::vector<PrintedPage>& pages) {
 
 } // namespace
 
-QByteArray pdfOf(const PrintJob& job, FontBook& fonts) {
+QByteArray pdfOf(const PrintJob& job, FontBook& fonts, const PagePainted& painted) {
     QByteArray pdf;
     QBuffer buffer(&pdf);
     buffer.open(QIODevice::WriteOnly);
@@ -50,7 +49,7 @@ QByteArray pdfOf(const PrintJob& job, FontBook& fonts) {
     writer.setTitle(job.title);
     // A dot is a paper unit, so no text needs a scale of its own: less to write for each.
     writer.setResolution(static_cast<int>(paperUnitsPerInch));
-    paintJob(job, writer, fonts);
+    paintJob(job, writer, fonts, {}, painted);
     buffer.close();
     correctBoxes(pdf, job.pages);
     return pdf;

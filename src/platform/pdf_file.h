@@ -1,14 +1,14 @@
 #pragma once
 
-#include "platform/fonts.h"
+#include "platform/job_painter.h"
 #include "printing/print_job.h"
 
 #include <QByteArray>
 #include <QDateTime>
 
 // The job as a PDF: fonts embedded, text extractable, every page of exactly the size that was asked for. The
-// job's number of copies is the caller's concern. DeviceError 482.
-QByteArray pdfOf(const PrintJob& job, FontBook& fonts);
+// job's number of copies is the caller's concern. DeviceError 482, 18 if it was stopped.
+QByteArray pdfOf(const PrintJob& job, FontBook& fonts, const PagePainted& painted = {});
 
 // "<yyyy-MM-dd>-<HHmmss>-<title>.pdf"; letters of the title that no file name may hold become '-'.
 QString pdfFileName(const QString& title, const QDateTime& now);

@@ -1,6 +1,5 @@
 #include "platform/qt_print_service.h"
 
-#include "platform/job_painter.h"
 #include "platform/pdf_file.h"
 #include "platform/spooler.h"
 
@@ -57,8 +56,13 @@ void QtPrintService::deliver(const PrintJob& job, int printer) {
     if (printer + 1 < printers_.size())
         printOn(printers_[printer], job);
     else
-        lastPdf_ = saveNewFile(pdfOf(withCopies(job), fonts_), pdfFolder_,
+        lastPdf_ = saveNewFile(pdfOf(withCopies(job), fonts_, pagePainted(true)), pdfFolder_,
                                pdfFileName(job.title, QDateTime::currentDateTime()));
+}
+
+PagePainted QtPrintService::pagePainted(bool canCancel) const {
+    if (!watch_) return {};
+    return [this, canCancel](int painted, int pages) { return watch_(painted, pages, canCancel) || !canCancel; };
 }
 
 void QtPrintService::printOn(const QString& name, const PrintJob& job) {
@@ -73,7 +77,8 @@ void QtPrintService::printOn(const QString& name, const PrintJob& job) {
     // A page is a preprinted sheet: where the driver prints on both sides by itself, every second form would be lost.
     printer.setDuplex(QPrinter::DuplexNone);
     const QList<QPageSize> sizes = info.supportedPageSizes();
-    paintJob(job, printer, fonts_, {sizes, sizes.isEmpty() || info.supportsCustomPageSizes()});
+    paintJob(job, printer, fonts_, {sizes, sizes.isEmpty() || info.supportsCustomPageSizes()},
+             pagePainted(canShutSpooler()));
     if (const QString trouble = spoolerTrouble(); !trouble.isEmpty())
         throw DeviceError(482, u"A nyomtató nem fogadta el a feladatot: "_s + trouble);
 }

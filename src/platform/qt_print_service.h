@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/fonts.h"
+#include "platform/job_painter.h"
 #include "printing/print_service.h"
 #include "records/program_folder.h"
 
@@ -20,18 +21,22 @@ public:
     bool knowsFont(const QString& name) override;
     float textWidth(const Font& font, const QString& text) override;
     float lineHeight(const Font& font) override;
-    // In a PDF the pages stand once for each copy. DeviceError 9, 482.
+    // In a PDF the pages stand once for each copy. DeviceError 9, 18, 482.
     void deliver(const PrintJob& job, int printer) override;
+    // Can be stopped but on a native Windows printer.
+    void watchDelivery(const DeliveryProgress& progress) override { watch_ = progress; }
 
     // Full path of the file that the last job on the PDF device became; empty before.
     const QString& lastPdf() const { return lastPdf_; }
 
 private:
     void printOn(const QString& name, const PrintJob& job);
+    PagePainted pagePainted(bool canCancel) const;
 
     QString pdfFolder_;
     Devices devices_;
     QStringList printers_;
     FontBook fonts_;
     QString lastPdf_;
+    DeliveryProgress watch_;
 };

@@ -146,12 +146,10 @@ void PrintDevice::watchDelivery(DeliveryProgress progress) { watch_ = std::move(
 
 void PrintDevice::EndDoc() {
     const int printer = currentPrinter();
-    DeliveryProgress watch = std::move(watch_);
-    const PrintJob job = takeJob(); // the job has ended, whatever the service does with it
-    if (job.pages.empty()) return;
-    service_.watchDelivery(std::move(watch));
+    service_.watchDelivery(watch_);
     const auto unwatch = qScopeGuard([this] { service_.watchDelivery({}); });
-    service_.deliver(job, printer);
+    const PrintJob job = takeJob(); // the job has ended, whatever the service does with it
+    if (!job.pages.empty()) service_.deliver(job, printer);
 }
 
 void PrintDevice::KillDoc() { takeJob(); }

@@ -47,5 +47,5 @@ public:
     virtual void deliver(const PrintJob& job, int printer) = 0;
     // Who is told of each page while deliver() runs; nobody with an empty function. A delivery that is stopped prints
     // nothing, leaves no file and ends as stoppedByUser().
-    virtual void watchDelivery(DeliveryProgress /*progress*/) {}
+    virtual void watchDelivery(const DeliveryProgress& /*progress*/) {}
 };

@@ -1,5 +1,6 @@
-// cups_probe QUEUE PAGE: prints two copies of one page on a queue of the system through the print service, with texts
-// that say in millimetres where they stand. Exit code: 0 handed over, 1 refused, 2 no such queue or page.
+// cups_probe QUEUE PAGE [stop]: prints two copies of one page on a queue of the system through the print service, with
+// texts that say in millimetres where they stand; `stop` cancels it once it is painted. Exit code: 0 handed over, 1
+// refused, 2 no such queue or page, 3 cancelled.
 
 #include "platform/qt_print_service.h"
 
@@ -39,11 +40,12 @@ int main(int argc, char** argv) {
     const auto printer = static_cast<int>(service.printers().indexOf(arguments.value(1)));
     const auto setup = setups.find(arguments.value(2));
     if (printer < 0 || setup == setups.end()) return 2;
+    if (arguments.contains(u"stop"_s)) service.watchDelivery([](int, int, bool canCancel) { return !canCancel; });
     try {
         service.deliver({u"Proba"_s, {pageWith(setup->second)}, 2}, printer);
     } catch (const DeviceError& error) {
         std::printf("error %d: %s\n", error.number, error.what());
-        return 1;
+        return error.number == stoppedByUser().number ? 3 : 1;
     }
     return 0;
 }

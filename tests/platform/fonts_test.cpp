@@ -26,6 +26,29 @@ TEST(FontBook, offersTheOldNamesThatItServes) {
     EXPECT_EQ(FontBook({u"Arial CE"_s}).names(), QStringList({u"Arial CE"_s}));
 }
 
+TEST(FontBook, aNameThatItsFieldCutsStandsForTheOneFamilyThatBeginsWithIt) {
+    const QString base = u"Abcdefghijklmnopqrstuvwxy"_s; // fills a field of 25
+    const std::tuple<QStringList, QString, QString, QString> rows[] = {
+        // installed; offered; asked; family
+        {{base + u"Zed"_s}, base + u"Zed"_s, base, base + u"Zed"_s},
+        {{base + u"Zed"_s}, base + u"Zed"_s, base.toUpper(), base + u"Zed"_s},
+        {{base + u"Zed"_s}, base + u"Zed"_s, base.chopped(1), {}}, // no field has cut it here
+        {{base + u"Zed"_s, base + u"Zoo"_s}, {}, base, {}},        // either may be meant
+        {{base, base + u"Zed"_s}, base, base, base},               // itself comes first, the other can't be told
+        {{base + u"12345six"_s}, base + u"12345six"_s, base + u"12345"_s, base + u"12345six"_s}, // a field of 30
+        {{u"Abcdefghijklmnopqrstuvwx Long"_s},
+         u"Abcdefghijklmnopqrstuvwx Long"_s,
+         u"Abcdefghijklmnopqrstuvwx  "_s,
+         u"Abcdefghijklmnopqrstuvwx Long"_s},                                                // cut behind a blank
+        {{u"Őrség"_s, u"源ノ明朝"_s, u"Ωmega"_s}, u"Őrség"_s, u"源ノ明朝"_s, u"源ノ明朝"_s}, // no letters for these
+    };
+    for (const auto& [installed, offered, asked, family] : rows) {
+        EXPECT_EQ(FontBook(installed).names().join(u';').toStdString(), offered.toStdString());
+        EXPECT_EQ(FontBook(installed).familyFor(asked).value_or(QString()).toStdString(), family.toStdString())
+            << asked.toStdString();
+    }
+}
+
 TEST(FontBook, sizesAreExactAndManyFontsDoNoHarm) {
     FontBook book;
     const auto width = [&](float size) {

@@ -68,6 +68,23 @@ TEST_F(QtPrintServiceTest, aJobBecomesOneFileThatIsTold) {
     EXPECT_EQ(files().size(), 2);
 }
 
+TEST_F(QtPrintServiceTest, aStoppedDeliveryLeavesNothing) {
+    QStringList told;
+    int stopAt = 4;
+    service.watchDelivery([&](int painted, int pages, bool canCancel) {
+        told << u"%1/%2%3"_s.arg(painted).arg(pages).arg(canCancel ? u""_s : u"!"_s);
+        return painted != stopAt;
+    });
+    EXPECT_EQ(errorNumberOf(jobOf(1)), 18);
+    EXPECT_EQ(told.join(u' ').toStdString(), "1/5 2/5 3/5 4/5") << "1 page in 5 copies";
+    EXPECT_TRUE(files().isEmpty() && service.lastPdf().isEmpty());
+    stopAt = 5; // the last page isn't too late
+    EXPECT_EQ(errorNumberOf(jobOf(1)), 18);
+    service.watchDelivery({});
+    EXPECT_EQ(errorNumberOf(jobOf(1)), 0);
+    EXPECT_EQ(files().size(), 1);
+}
+
 TEST_F(QtPrintServiceTest, anIndexBeyondTheListOrAFolderThatCannotBeMadeIsAnError) {
     folder.setBytes(u"nyomtatas"_s, "a file stands in the way");
     for (const int printer : {-1, 1, 99})

@@ -77,6 +77,44 @@ TEST_F(PenTest, FailureWays) {
     }
 }
 
+TEST_F(PenTest, AJobTakesNothingOverFromTheOneBefore) {
+    const auto leaveALot = [this] {
+        Pen pen = this->pen(FailureWay::silent);
+        pen.OpenForm(dlLandscape);
+        pen.SetFont(u"Arial CE"_s, 20, Weight::bold);
+        device.setFontItalic(true);
+        pen.PlaceHold(1, 2, u"x"_s);
+        pen.EndForm(FormEnd::job);
+        device.setCurrentY(99);
+    };
+    const auto printed = [&](FirstPage first, bool fromA4) {
+        leaveALot();
+        Pen pen(desk, FailureWay::passOver, u"form"_s, first);
+        if (fromA4) pen.StartFromA4();
+        pen.SetFont(u"Nincs ilyen"_s, 0); // passed over
+        pen.PlaceNext(0, u"x"_s);
+        pen.EndForm(FormEnd::job);
+        return service.delivered.back().job.pages.back();
+    };
+    const PageSetup ownPage, envelope{2, 27, {}};
+    const std::tuple<FirstPage, bool, PageSetup> rows[] = {
+        {FirstPage::ownPage, false, ownPage}, {FirstPage::asLeft, false, envelope}, {FirstPage::asLeft, true, ownPage}};
+    for (const auto& [first, fromA4, setup] : rows) {
+        const PrintedPage page = printed(first, fromA4);
+        EXPECT_EQ(page.setup, setup);
+        const auto& text = std::get<PlacedText>(page.items.at(0));
+        EXPECT_EQ(text.font, (Font{u"Times New Roman CE"_s, 12}));
+        EXPECT_EQ(text.y, 0.0F);
+    }
+    service.knownFonts = {u"Arial CE"_s};
+    leaveALot();
+    EXPECT_EQ(Pen(desk, FailureWay::silent, u"form"_s).outcome().pages, 0);
+    EXPECT_EQ(device.font().name, QString());
+    leaveALot(); // measures upright letters, whatever was printed last
+    Pen(device).TextWidth(u"Arial CE"_s, 10, u"x"_s);
+    EXPECT_EQ(device.font(), (Font{u"Arial CE"_s, 10}));
+}
+
 TEST_F(PenTest, RefusedDeliveryTakesTheFailureWay) {
     service.refuseWith = 482;
     for (const FailureWay way : {FailureWay::message, FailureWay::silent, FailureWay::passOver}) {
@@ -84,6 +122,10 @@ TEST_F(PenTest, RefusedDeliveryTakesTheFailureWay) {
         EXPECT_EQ(outcome.pages, 0);
         EXPECT_FALSE(outcome.trouble.isEmpty());
     }
+    Pen noted = pen(FailureWay::silent);
+    noted.Note(u"hiányos"_s);
+    writeTwoPages(noted, u"Arial CE"_s);
+    EXPECT_EQ(noted.outcome().trouble, u"A nyomtató nem fogadja a munkát."_s) << "why no page came out";
     ASSERT_EQ(prompts.told.size(), 1U);
     EXPECT_EQ(prompts.told[0].icon, Icon::warning);
     EXPECT_TRUE(prompts.told[0].text.startsWith(u"Hiba kódszáma: 482\n"_s));

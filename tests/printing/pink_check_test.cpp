@@ -1,6 +1,7 @@
 #include "printing/pink_check.h"
 
 #include "check_fixture.h"
+#include "printing/yellow_check.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -83,6 +84,7 @@ TEST_F(PinkCheck, UprightBatchWithAFixedAddressee) {
               "75 46 T|*Egymilliókettőszázharmincnégyezer-; 75 52 T|ötszázhatvanhét*; 75 15 T|Nagy Áron; "
               "75 19 T|1024   Budapest,Fő utca 1.; 9 61 B|Címzett Zrt.; 9 65.80 B|Győr; 9 70.60 B|Duna út 9.; "
               "9 77 B|9021; 147 61 B|Címzett Zrt.; 147 65.80 B|Győr; 147 70.60 B|Duna út 9.; 147 77 B|9021");
+    EXPECT_EQ(prompts.summaries.back(), u"2 csekk, ebből 1 összeg nélkül"_s);
     // An amount of 0 prints as such.
     EXPECT_EQ(page(1, u"*"_s), "15 7 A|***0***; 80 7 A|***0***; 80 36 A|***0***; 11 17 T|**; 75 46 T|**");
     EXPECT_EQ(page(1, u"Nulla"_s), "75 15 T|Nulla Ödön");
@@ -105,6 +107,7 @@ TEST_F(PinkCheck, UprightBatchOfBacks) {
     set.chkNyomtatando.fill(false); // nothing of this rules the back
     storeSettings();
     EXPECT_EQ(print(PrintCsAlloRcsekk, {1, 2}).trouble, QString());
+    EXPECT_EQ(prompts.summaries.back(), u"2 csekk"_s);
     EXPECT_EQ(page(1), "86 61 T|Nulla Ödön; 86 65 T|Budapest; 86 69 T|Fő utca 1.; 0 73 T| ; 86 77 T|1024; "
                        "79 5 T|egy; 79 9 T|kettő; 79 17 T|négy");
 
@@ -122,10 +125,43 @@ TEST_F(PinkCheck, FlagsLeaveTheirRowsOut) {
     EXPECT_TRUE(lines().contains(u"0 56 T| "_s));
     EXPECT_TRUE(lines().contains(u"75 60 T|1024 Budapest, Fő utca 1."_s));
     set.chkNyomtatando.fill(false); // the addressee prints without any
+    set.chkNyomtatando[6] = true;   // keeps the ticks, prints nothing
     storeSettings();
     const PrintOutcome outcome = PrintAlloRCsekk(desk, tabs, {});
     EXPECT_EQ(outcome.pages, 1);
     EXPECT_EQ(outcome.trouble, u"A Beállításokban egyetlen nyomtatandó adat sincs kipipálva!"_s);
+}
+
+TEST_F(PinkCheck, AnEmptyAddresseePrintsAndIsTold) {
+    const QString told = u"A címzett adatai üresek."_s;
+    EXPECT_EQ(print(PrintCsAlloRcsekk, {1}).trouble, QString());
+    tab.RlbNev = tab.RlbHelys = tab.RlbCim = u"  "_s;
+    EXPECT_EQ(PrintAlloRCsekk(desk, tabs, {}).trouble, QString());
+    tab.RlbIrsz.clear();
+    for (const Batch single : {PrintAlloRCsekk, PrintFekvoRCsekk}) {
+        const PrintOutcome outcome = single(desk, tabs, {});
+        EXPECT_EQ(std::tuple(outcome.pages, outcome.trouble), std::tuple(1, told));
+    }
+    EXPECT_EQ(print(PrintCsAlloRcsekk, {1, 2}).trouble, told); // the fixed addressee
+    tab.opAllando = FixedParty::sender;
+    EXPECT_EQ(print(PrintCsFekvoRcsekk, {1, 2}).trouble, QString());
+    addClient(zeroRecord<ClientRec>());
+    EXPECT_EQ(print(PrintCsFekvoRcsekk, {1, 3}).trouble, told);
+    tab.side = Side::back;
+    EXPECT_EQ(print(PrintCsAlloRcsekk, {3}).trouble, QString());
+}
+
+TEST_F(PinkCheck, TheDefaultPrinterBeginsWithItsOwnPage) {
+    set.opPrinter_1 = true;
+    storeSettings();
+    for (const Batch sideways : {PrintFekvoRCsekk, PrintCsFekvoRcsekk}) {
+        tabs.yellowCheck.txNev = u"Kiss Éva"_s;
+        PrintAlloCsekk(desk, tabs, {});
+        ASSERT_EQ(lastSetup(), uprightSheet);
+        print(sideways, {1});
+        EXPECT_EQ(lastSetup(), PageSetup());
+        prompts.printerChoices.clear();
+    }
 }
 
 TEST_F(PinkCheck, ErrorsAndCancelDropTheJobAndAreTold) {

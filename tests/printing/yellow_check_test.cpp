@@ -191,6 +191,18 @@ TEST_F(YellowCheck, UprightBatchAsksForThePrinterAndTakesAllRowsWhenAutomatic) {
     EXPECT_EQ(prompts.printDialogs, 3);
 }
 
+TEST_F(YellowCheck, OnlyASingleCheckFollowsTheDefaultPrinter) {
+    addFullClient(u"Nagy Áron"_s, 700);
+    set.opPrinter_1 = true;
+    storeSettings();
+    for (const Routine routine : {PrintAlloCsekk, PrintFekvoCsekk, PrintCsAlloCsekk, PrintCsFekvoCsekk}) {
+        device.setCurrentPrinter(0);
+        routine(unattended(), tabs, {{}, {1}});
+        const bool single = routine == PrintAlloCsekk || routine == PrintFekvoCsekk;
+        EXPECT_EQ(lastJob().printer, single ? 2 : 0);
+    }
+}
+
 TEST_F(YellowCheck, WhatCannotBePrintedIsDroppedWhole) {
     addFullClient(u"Nagy Áron"_s, 700);
     for (const int number : {0, -1, 32768}) { // no record numbers

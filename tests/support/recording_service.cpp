@@ -2,6 +2,9 @@
 
 void RecordingService::deliver(const PrintJob& job, int printer) {
     if (refuseWith != 0) throw DeviceError(refuseWith, QStringLiteral("A nyomtató nem fogadja a munkát."));
+    const auto pages = static_cast<int>(job.pages.size());
+    for (int page = 1; watch_ && page <= pages; ++page)
+        if (!watch_(page, pages, true)) throw stoppedByUser();
     delivered.push_back({job, printer});
 }
 

@@ -29,6 +29,10 @@ public:
     }
     float lineHeight(const Font& font) override { return font.size * 0.4F; }
     void deliver(const PrintJob& job, int printer) override;
+    void watchDelivery(const DeliveryProgress& progress) override { watch_ = progress; }
+
+private:
+    DeliveryProgress watch_;
 };
 
 // One line a placed text, "x y size name|text" with positions to a hundredth of a mm: what a form test compares.
