@@ -1,10 +1,12 @@
 #include "mainwindow/print_dispatch.h"
 
 #include "printing/amount_in_words.h"
+#include "printing/cash_on_delivery.h"
 #include "printing/pink_check.h"
+#include "printing/return_receipt.h"
 #include "printing/yellow_check.h"
 #include "prompts/titles.h"
-#include "records/record_file.h"
+#include "records/client_database.h"
 #include "settings/general_settings.h"
 
 #include <algorithm>
@@ -32,10 +34,10 @@ constexpr Route routes[] = {
     {Tab::yellowCheck, single, sideways, PrintFekvoCsekk},
     {Tab::yellowCheck, batch, upright, PrintCsAlloCsekk},
     {Tab::yellowCheck, batch, sideways, PrintCsFekvoCsekk},
-    {Tab::returnReceipt, single, upright, notBuilt},
-    {Tab::returnReceipt, single, sideways, notBuilt},
-    {Tab::returnReceipt, batch, upright, notBuilt},
-    {Tab::returnReceipt, batch, sideways, notBuilt},
+    {Tab::returnReceipt, single, upright, PrintAlloTerti},
+    {Tab::returnReceipt, single, sideways, PrintFekvoTerti},
+    {Tab::returnReceipt, batch, upright, PrintCsAlloTerti},
+    {Tab::returnReceipt, batch, sideways, PrintCsFekvoTerti},
     {Tab::postingReceipt, single, upright, notBuilt},
     {Tab::postingReceipt, single, sideways, notBuilt},
     {Tab::postingReceipt, batch, upright, notBuilt},
@@ -53,10 +55,10 @@ constexpr Route routes[] = {
     {Tab::pinkCheck, single, sideways, PrintFekvoRCsekk},
     {Tab::pinkCheck, batch, upright, PrintCsAlloRcsekk},
     {Tab::pinkCheck, batch, sideways, PrintCsFekvoRcsekk},
-    {Tab::cashOnDelivery, single, upright, notBuilt},
-    {Tab::cashOnDelivery, single, sideways, notBuilt},
-    {Tab::cashOnDelivery, batch, upright, notBuilt},
-    {Tab::cashOnDelivery, batch, sideways, notBuilt},
+    {Tab::cashOnDelivery, single, upright, PrintAlloULap},
+    {Tab::cashOnDelivery, single, sideways, PrintFekvoULap},
+    {Tab::cashOnDelivery, batch, upright, PrintCsAlloUlap},
+    {Tab::cashOnDelivery, batch, sideways, PrintCsFekvoUlap},
 };
 static_assert(std::size(routes) == 29);
 
@@ -85,16 +87,52 @@ bool isSingleMeant(const PrintDesk& desk, const YellowCheckTab& tab, const QStri
         u"A név mezőben a keresett szöveg áll: ''%1''\n\nMehet a nyomtatás ezzel a névvel?"_s.arg(tab.txNev));
 }
 
+QString wholeListQuestion(const PrintDesk& desk, const ListRows& rows) {
+    if (rows.selected.size() >= rows.all.size() || readRecord<Set>(desk.folder).chkAutoPrint == 0) return {};
+    return u"Az automatikus nyomtatás be van kapcsolva,\nezért a lista MIND %1 ügyfelének csekkje ki lesz "
+           "nyomtatva!\n\nMehet a nyomtatás?"_s.arg(withArticle(rows.all.size()));
+}
+
+QString frontOnlyQuestion(const PinkCheckTab& tab) {
+    if (tab.side == Side::front) return {};
+    return u"Fekvő csoportos nyomtatásnál csak a csekk első oldala nyomtatható!\n\nMehet az első oldal nyomtatása?"_s;
+}
+
+// With the parties swapped the payee's labels hold the client last clicked, and every front takes them.
+QString samePayeeQuestion(const CashOnDeliveryTab& tab) {
+    if (!tab.chkCimzettCsereUlap || tab.side == Side::back) return {};
+    return u"A ''Címzettek cseréje'' be van kapcsolva, ezért minden lapon\n%1\nlesz a másik fél!\n\nMehet a "
+           "nyomtatás?"_s.arg(trimBlanks(tab.lbUNev));
+}
+
+// What a clerk would not expect of this batch; empty for nothing.
+QString batchQuestion(const PrintDesk& desk, const FormTabs& tabs, const PrintRequest& request, const ListRows& rows) {
+    if (request.tab == Tab::yellowCheck && request.feed == upright) return wholeListQuestion(desk, rows);
+    if (request.tab == Tab::pinkCheck && request.feed == sideways) return frontOnlyQuestion(tabs.pinkCheck);
+    if (request.tab == Tab::cashOnDelivery) return samePayeeQuestion(tabs.cashOnDelivery);
+    return {};
+}
+
+// The batches whose address lines have no room for the street that a foreign client has in the second name.
+bool leavesForeignStreetsOut(Tab tab) {
+    return tab == Tab::returnReceipt || tab == Tab::postingReceipt || tab == Tab::documentReceipt;
+}
+
+void tellForeignStreets(const PrintDesk& desk, const ListRows& rows) {
+    RecordFile<ClientRec> clients(desk.folder);
+    const auto lost = std::count_if(rows.selected.begin(), rows.selected.end(), [&](int number) {
+        const ClientRec client = clients.read(number);
+        return client.Kulfoldi && !client.Nev2.trimmed().isEmpty();
+    });
+    if (lost == 0) return;
+    desk.prompts.tell({Icon::information, titles::attention,
+                       u"%1 külföldi címzett utcája a csoportos nyomtatásban nem szerepel!"_s.arg(lost)});
+}
+
 bool isBatchMeant(const PrintDesk& desk, const FormTabs& tabs, const PrintRequest& request, const ListRows& rows) {
-    if (request.tab == Tab::yellowCheck && request.feed == upright && rows.selected.size() < rows.all.size() &&
-        readRecord<Set>(desk.folder).chkAutoPrint != 0)
-        return confirms(desk.prompts,
-                        u"Az automatikus nyomtatás be van kapcsolva,\nezért a lista MIND %1 ügyfelének "
-                        "csekkje ki lesz nyomtatva!\n\nMehet a nyomtatás?"_s.arg(withArticle(rows.all.size())));
-    if (request.tab == Tab::pinkCheck && request.feed == sideways && tabs.pinkCheck.side == Side::back)
-        return confirms(desk.prompts, u"Fekvő csoportos nyomtatásnál csak a csekk első oldala nyomtatható!\n\nMehet az "
-                                      "első oldal nyomtatása?"_s);
-    return true;
+    if (leavesForeignStreetsOut(request.tab)) tellForeignStreets(desk, rows);
+    const QString question = batchQuestion(desk, tabs, request, rows);
+    return question.isEmpty() || confirms(desk.prompts, question);
 }
 
 PrintOutcome nothing(const QString& why) { return {0, {}, why}; }

@@ -1,5 +1,7 @@
 #include "printing/check_forms.h"
 
+#include "prompts/titles.h"
+
 #include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
@@ -16,4 +18,9 @@ PrintOptions checkOptions(Pen& pen, const Set& set, Run run) {
 
 WordRows batchWords(PrintDevice& device, std::int32_t amount, const Text<25>& font, int size) {
     return fitForForm(azaz1(amount), device, font.trimmed(), size, wordRowLimitMm);
+}
+
+std::optional<Message> missingClient(const YellowCheckTab& tab) {
+    if (!trimBlanks(tab.txNev).isEmpty()) return {};
+    return Message{Icon::none, titles::formError, u" Nincs kijelölve ügyfél a listáról..."_s};
 }

@@ -41,16 +41,17 @@ void announce(Pen& pen, const PrintDesk& desk, const FormRoutine& routine, const
         pen.Drop(u"A nyomtatást nem kérted."_s);
 }
 
-void printPages(Pen& pen, const ProgramFolder& folder, const std::vector<int>& numbers,
+void printPages(Pen& pen, const ProgramFolder& folder, bool readsTwin, const std::vector<int>& numbers,
                 const std::function<void(const Client&)>& printPage) {
     if (numbers.empty()) return pen.Note(u"Nincs kijelölt ügyfél."_s);
     if (!std::all_of(numbers.begin(), numbers.end(), isClientNumber)) pen.Fail(6, u"Túlcsordulás"_s);
-    RecordFile<TwinRec> twins(folder);
+    std::optional<RecordFile<TwinRec>> twins;
+    if (readsTwin) twins.emplace(folder);
     RecordFile<ClientRec> clients(folder);
     for (int done = 0; const int number : numbers) {
         if (pen.stopped()) return;
         if (isClientNumber(number)) {
-            printPage({clients.read(number), twins.read(number)});
+            printPage({clients.read(number), twins ? twins->read(number) : zeroRecord<TwinRec>()});
             pen.EndForm(FormEnd::page);
         }
         pen.PageWritten(++done, static_cast<int>(numbers.size()));
@@ -85,7 +86,7 @@ PrintOutcome printEach(const PrintDesk& desk, const FormRoutine& routine, const 
     const std::vector<int>& numbers = takesAll ? rows.all : rows.selected;
     announce(pen, desk, routine, numbers);
     if (!routine.opensPerClient) pen.OpenForm(routine.page);
-    printPages(pen, desk.folder, numbers, [&](const Client& client) {
+    printPages(pen, desk.folder, routine.readsTwin, numbers, [&](const Client& client) {
         if (routine.opensPerClient) pen.OpenForm(routine.page);
         print(pen, set, client);
     });

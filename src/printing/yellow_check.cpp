@@ -3,7 +3,6 @@
 #include "printing/check_forms.h"
 #include "printing/form_routine.h"
 #include "printing/form_text.h"
-#include "prompts/titles.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -151,11 +150,8 @@ void printPage(Pen& pen, const Set& set, const YellowCheckPage& page, Run run) {
 }
 
 PrintOutcome printTab(const PrintDesk& desk, const FormRoutine& routine, const YellowCheckTab& tab) {
-    std::optional<Message> missing;
-    if (trimmed(tab.txNev).isEmpty())
-        missing = {Icon::none, titles::formError, u" Nincs kijelölve ügyfél a listáról..."_s};
     const auto print = [&](Pen& pen, const Set& set) { printPage(pen, set, pageOfTab(tab), routine.run); };
-    return printOne(desk, routine, print, missing);
+    return printOne(desk, routine, print, missingClient(tab));
 }
 
 PrintOutcome printBatch(const PrintDesk& desk, const FormRoutine& routine, const YellowCheckTab& tab,

@@ -1,6 +1,7 @@
 #include "joined_texts.h"
 #include "mainwindow/print_dispatch.h"
 #include "printing/check_fixture.h"
+#include "settings/receipt_layouts.h"
 
 namespace {
 
@@ -11,6 +12,8 @@ protected:
             addClient(clientNamed(QString::fromUtf16(name), 1500));
         tabs.yellowCheck.txNev = QStringLiteral("Kiss Anna");
         tabs.yellowCheck.txOsszeg = QStringLiteral("1500");
+        tabs.returnReceipt.txNev2 = tabs.cashOnDelivery.txUNev = QStringLiteral("Kiss Anna");
+        files.store(SetTerti::factory());
     }
     PrintOutcome print(Tab tab, Feed feed, Press press) {
         return dispatchPrint(desk, tabs, {tab, press, feed}, rows, QStringLiteral("Kiss Anna"));
@@ -48,7 +51,15 @@ TEST_F(PrintDispatch, TabFeedAndButtonFindTheRoutine) {
                   {Tab::pinkCheck, Press::single, Feed::upright, "rozsaszin-csekk DL 1", 0},
                   {Tab::pinkCheck, Press::single, Feed::sideways, "rozsaszin-csekk A4 1", 0},
                   {Tab::pinkCheck, Press::batch, Feed::upright, "rozsaszin-csekk DL 2", 1},
-                  {Tab::pinkCheck, Press::batch, Feed::sideways, "rozsaszin-csekk A4 2", 1}};
+                  {Tab::pinkCheck, Press::batch, Feed::sideways, "rozsaszin-csekk A4 2", 1},
+                  {Tab::returnReceipt, Press::single, Feed::upright, "tertiveveny A4 1", 0},
+                  {Tab::returnReceipt, Press::single, Feed::sideways, "tertiveveny own 1", 0},
+                  {Tab::returnReceipt, Press::batch, Feed::upright, "tertiveveny A4 2", 0},
+                  {Tab::returnReceipt, Press::batch, Feed::sideways, "tertiveveny own 2", 0},
+                  {Tab::cashOnDelivery, Press::single, Feed::upright, "utanveteli-lap DL 1", 0},
+                  {Tab::cashOnDelivery, Press::single, Feed::sideways, "utanveteli-lap A4 1", 0},
+                  {Tab::cashOnDelivery, Press::batch, Feed::upright, "utanveteli-lap DL 2", 0},
+                  {Tab::cashOnDelivery, Press::batch, Feed::sideways, "utanveteli-lap own 2", 0}};
     for (const auto& route : routes) {
         prompts.printerChoices.assign(route.dialogs, PrinterChoice{0, 1});
         ASSERT_GT(print(route.tab, route.feed, route.press).pages, 0) << route.printed;
@@ -93,10 +104,13 @@ TEST_F(PrintDispatch, UnexpectedBatchesAreAskedForFirst) {
                             "lesz nyomtatva!\n\nMehet a nyomtatás?";
     const std::string front = "Fekvő csoportos nyomtatásnál csak a csekk első oldala nyomtatható!\n\nMehet az első "
                               "oldal nyomtatása?";
+    const std::string payee = "A ''Címzettek cseréje'' be van kapcsolva, ezért minden lapon\nNagy Béla\nlesz a másik "
+                              "fél!\n\nMehet a nyomtatás?";
+    tabs.cashOnDelivery.lbUNev = QStringLiteral("Nagy Béla   ");
     const struct {
         Tab tab;
         Feed feed;
-        std::int16_t autoPrint;
+        std::int16_t autoPrint; // on the cash-on-delivery form: the parties are swapped
         Side side;
         std::vector<int> selected;
         std::string question; // empty for none
@@ -108,12 +122,17 @@ TEST_F(PrintDispatch, UnexpectedBatchesAreAskedForFirst) {
                    {Tab::yellowCheck, Feed::sideways, 1, Side::front, {1, 3}, {}, 2}, // goes by the selection anyway
                    {Tab::pinkCheck, Feed::upright, 1, Side::back, {1, 3}, {}, 2},
                    {Tab::pinkCheck, Feed::sideways, 0, Side::back, {1, 3}, front, 2},
-                   {Tab::pinkCheck, Feed::sideways, 1, Side::front, {1, 3}, {}, 2}};
+                   {Tab::pinkCheck, Feed::sideways, 1, Side::front, {1, 3}, {}, 2},
+                   {Tab::cashOnDelivery, Feed::upright, 1, Side::front, {1, 3}, payee, 2},
+                   {Tab::cashOnDelivery, Feed::sideways, 1, Side::front, {1, 3}, payee, 2},
+                   {Tab::cashOnDelivery, Feed::upright, 1, Side::back, {1, 3}, {}, 2}, // has no payee
+                   {Tab::cashOnDelivery, Feed::upright, 0, Side::front, {1, 3}, {}, 2}};
     for (int number = 0; const auto& batch : batches) {
         SCOPED_TRACE(++number);
         set.chkAutoPrint = batch.autoPrint;
         storeSettings();
-        tabs.pinkCheck.side = batch.side;
+        tabs.cashOnDelivery.chkCimzettCsereUlap = batch.autoPrint != 0;
+        tabs.pinkCheck.side = tabs.cashOnDelivery.side = batch.side;
         rows.selected = batch.selected;
         if (!batch.question.empty()) {
             prompts.answers = {Answer::no, Answer::yes};
@@ -121,12 +140,31 @@ TEST_F(PrintDispatch, UnexpectedBatchesAreAskedForFirst) {
             EXPECT_EQ(::joined(prompts.asked.back()), " FIGYELEM |" + batch.question);
             EXPECT_EQ(prompts.presets.back(), Answer::no);
         }
-        if (batch.tab == Tab::pinkCheck || batch.feed == Feed::upright) prompts.printerChoices = {PrinterChoice{0, 1}};
+        const bool asks = batch.tab == Tab::pinkCheck || (batch.tab == Tab::yellowCheck && batch.feed == Feed::upright);
+        if (asks) prompts.printerChoices = {PrinterChoice{0, 1}};
         ASSERT_GT(print(batch.tab, batch.feed, Press::batch).pages, 0);
         EXPECT_EQ(lastJob().job.pages.size(), batch.pages);
         EXPECT_EQ(service.delivered.size(), static_cast<std::size_t>(number)); // none for a no
         EXPECT_TRUE(prompts.answers.empty());
     }
+}
+
+TEST_F(PrintDispatch, ABatchTellsWhoseStreetItLeavesOut) {
+    ClientRec foreigner = clientNamed(QStringLiteral("John"));
+    foreigner.Kulfoldi = true;
+    addClient(foreigner); // has no street to lose
+    foreigner.Nev2.set(u"Fleet Street 1");
+    addClient(foreigner);
+    addClient(foreigner);
+    rows.selected = {1, 4};
+    EXPECT_EQ(print(Tab::returnReceipt, Feed::upright, Press::batch).pages, 2);
+    rows.selected = {1, 4, 5, 6};
+    EXPECT_EQ(print(Tab::returnReceipt, Feed::upright, Press::single).pages, 1);
+    EXPECT_EQ(print(Tab::cashOnDelivery, Feed::upright, Press::batch).pages, 4);
+    ASSERT_TRUE(prompts.told.empty());
+    EXPECT_EQ(print(Tab::returnReceipt, Feed::sideways, Press::batch).pages, 4);
+    EXPECT_EQ(::joined(prompts.told.at(0)),
+              "Figyelem!|2 külföldi címzett utcája a csoportos nyomtatásban nem szerepel!");
 }
 
 } // namespace

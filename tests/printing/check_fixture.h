@@ -57,6 +57,14 @@ protected:
     // Only those with the given part.
     std::string page(std::size_t page, const QString& part) const { return joined(lines(page).filter(part)); }
 
+    // Without the blanks that stored texts end in.
+    std::string unpadded(std::size_t page = 0) const {
+        QStringList texts = lines(page);
+        for (QString& text : texts)
+            text = text.trimmed();
+        return joined(texts);
+    }
+
     const RecordingService::Delivered& lastJob() const { return service.delivered.back(); }
     const PageSetup& lastSetup() const { return lastJob().job.pages.back().setup; }
 
