@@ -2,6 +2,7 @@
 #include "make_program_folder/pictures.h"
 #include "records/record_file.h"
 #include "settings/check_layouts.h"
+#include "settings/envelope_label_settings.h"
 #include "settings/general_settings.h"
 #include "settings/receipt_layouts.h"
 
@@ -126,6 +127,9 @@ void makeAll(FolderMaker& maker) {
     maker.record(SetTerti::factory());
     maker.record(SetFveveny::factory());
     maker.record(SetIrat2::factory());
+    maker.record(boritek::firstRun());
+    maker.record(Betutip::firstRun());
+    maker.record(Betumeret::firstRun());
 }
 
 } // namespace
