@@ -28,6 +28,9 @@ void showClient(LabelTab& tab, const ClientRec& client);
 // only, not stored.
 void showSheet(LabelTab& tab, const CimkeSetup& set);
 
+// The labels printed so far.
+void showCount(LabelTab& tab, const CimkeSetup& set);
+
 // The tab comes into view: the ticks follow the columns and rows of the boxes, and so do the shown label sizes of up to
 // 3 columns and 8 rows. Nothing is stored. Where the record holds no columns, cmdCimkeMeretRogzites_Click takes its
 // place.

@@ -86,6 +86,11 @@ void frmTarlimo::connectParts() {
     });
     connect(panel_, &PrintPanel::printPressed, this, [this] { printing_.press(Press::single, SSTab1_->tab()); });
     connect(panel_, &PrintPanel::batchPressed, this, [this] { printing_.press(Press::batch, SSTab1_->tab()); });
+    connect(&printing_, &PrintActions::printed, this, [this](Tab tab) {
+        if (tab != Tab::label) return;
+        showCount(tabs_.label, readRecord<CimkeSetup>(folder_));
+        SSTab1_->showValues();
+    });
     connect(qGuiApp, &QGuiApplication::commitDataRequest, this, &frmTarlimo::storeState);
 }
 

@@ -17,6 +17,7 @@ void PrintActions::press(Press press, Tab tab) {
     const PrintOutcome outcome = print({tab, press, desk_.panel.feed()});
     desk_.panel.setButtonsEnabled(true);
     report(outcome);
+    Q_EMIT printed(tab);
     if (focus) focus->setFocus(); // a disabled button has passed it on
 }
 
