@@ -1,5 +1,5 @@
-#include "exchange/postcode_tables.h"
 #include "make_program_folder/pictures.h"
+#include "make_program_folder/postcode_tables.h"
 #include "records/record_file.h"
 #include "settings/check_layouts.h"
 #include "settings/general_settings.h"
