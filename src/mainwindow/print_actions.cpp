@@ -22,8 +22,12 @@ void PrintActions::press(Press press, Tab tab) {
 
 PrintOutcome PrintActions::print(const PrintRequest& request) {
     const WorkInProgress::Turn turn(desk_.work);
-    const auto progress = [this](int done, int pages) {
-        return desk_.work.step(done, pages, u"%1. lap / %2…"_s.arg(done).arg(pages), WorkInProgress::Cancel::possible);
+    // One bar for both stages: the pages are written in its first half and handed over in the second.
+    const auto progress = [this](const PagesDone& pages) {
+        const int before = pages.stage == PrintStage::handingOver ? pages.pages : 0;
+        return desk_.work.step(before + pages.done, 2 * pages.pages,
+                               u"%1. lap / %2…"_s.arg(pages.done).arg(pages.pages),
+                               pages.canCancel ? WorkInProgress::Cancel::possible : WorkInProgress::Cancel::impossible);
     };
     return dispatchPrint({desk_.device, desk_.services.prompts, desk_.folder, true, progress}, desk_.tabs, request,
                          desk_.clients.rows(), desk_.selected.record.client.Nev.trimmed());
