@@ -22,6 +22,7 @@ struct FormRoutine {
     bool asksForPrinter = false;       // shows the print dialog; else many pages are asked for
     bool opensPerClient = false;       // sets the page up for each client anew, not once for the job
     bool allRowsWhenAutomatic = false; // takes all rows of the list while automatic printing is switched on
+    bool takesClientsOut = false;      // its clients leave the list while the settings say so (chkPrintDel)
 };
 
 using PrintForm = std::function<void(Pen&, const Set&)>;
