@@ -1,7 +1,9 @@
 #include "mainwindow/print_dispatch.h"
 
 #include "printing/amount_in_words.h"
+#include "printing/document_receipt.h"
 #include "printing/pink_check.h"
+#include "printing/posting_receipt.h"
 #include "printing/yellow_check.h"
 #include "prompts/titles.h"
 #include "records/record_file.h"
@@ -36,19 +38,19 @@ constexpr Route routes[] = {
     {Tab::returnReceipt, single, sideways, notBuilt},
     {Tab::returnReceipt, batch, upright, notBuilt},
     {Tab::returnReceipt, batch, sideways, notBuilt},
-    {Tab::postingReceipt, single, upright, notBuilt},
-    {Tab::postingReceipt, single, sideways, notBuilt},
-    {Tab::postingReceipt, batch, upright, notBuilt},
-    {Tab::postingReceipt, batch, sideways, notBuilt},
+    {Tab::postingReceipt, single, upright, PrintAlloFelado},
+    {Tab::postingReceipt, single, sideways, PrintFekvoFelado},
+    {Tab::postingReceipt, batch, upright, PrintCsAlloFelado},
+    {Tab::postingReceipt, batch, sideways, PrintCsFekvoFelado},
     {Tab::envelope, single, upright, notBuilt},
     {Tab::envelope, single, sideways, notBuilt},
     {Tab::envelope, batch, upright, notBuilt},
     {Tab::envelope, batch, sideways, notBuilt},
     {Tab::label, single, upright, notBuilt},
-    {Tab::documentReceipt, single, upright, notBuilt},
-    {Tab::documentReceipt, single, sideways, notBuilt},
-    {Tab::documentReceipt, batch, upright, notBuilt},
-    {Tab::documentReceipt, batch, sideways, notBuilt},
+    {Tab::documentReceipt, single, upright, PrintAlloIrat},
+    {Tab::documentReceipt, single, sideways, PrintFekvoIrat},
+    {Tab::documentReceipt, batch, upright, PrintCsAlloIrat},
+    {Tab::documentReceipt, batch, sideways, PrintCsFekvoIrat},
     {Tab::pinkCheck, single, upright, PrintAlloRCsekk},
     {Tab::pinkCheck, single, sideways, PrintFekvoRCsekk},
     {Tab::pinkCheck, batch, upright, PrintCsAlloRcsekk},

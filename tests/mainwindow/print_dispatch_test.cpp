@@ -1,6 +1,7 @@
 #include "joined_texts.h"
 #include "mainwindow/print_dispatch.h"
 #include "printing/check_fixture.h"
+#include "settings/receipt_layouts.h"
 
 namespace {
 
@@ -11,6 +12,9 @@ protected:
             addClient(clientNamed(QString::fromUtf16(name), 1500));
         tabs.yellowCheck.txNev = QStringLiteral("Kiss Anna");
         tabs.yellowCheck.txOsszeg = QStringLiteral("1500");
+        tabs.postingReceipt.txNev3 = tabs.documentReceipt.txtIratCimzettNev = tabs.yellowCheck.txNev;
+        files.store(SetFveveny::factory());
+        files.store(SetIrat2::factory());
     }
     PrintOutcome print(Tab tab, Feed feed, Press press) {
         return dispatchPrint(desk, tabs, {tab, press, feed}, rows, QStringLiteral("Kiss Anna"));
@@ -45,6 +49,14 @@ TEST_F(PrintDispatch, TabFeedAndButtonFindTheRoutine) {
                   {Tab::yellowCheck, Press::single, Feed::sideways, "sarga-csekk own 1", 0},
                   {Tab::yellowCheck, Press::batch, Feed::upright, "sarga-csekk DL 2", 1},
                   {Tab::yellowCheck, Press::batch, Feed::sideways, "sarga-csekk own 2", 0},
+                  {Tab::postingReceipt, Press::single, Feed::upright, "feladoveveny DL 1", 0},
+                  {Tab::postingReceipt, Press::single, Feed::sideways, "feladoveveny own 1", 0},
+                  {Tab::postingReceipt, Press::batch, Feed::upright, "feladoveveny DL 2", 0},
+                  {Tab::postingReceipt, Press::batch, Feed::sideways, "feladoveveny own 2", 0},
+                  {Tab::documentReceipt, Press::single, Feed::upright, "irat-tertiveveny DL 1", 0},
+                  {Tab::documentReceipt, Press::single, Feed::sideways, "irat-tertiveveny own 1", 0},
+                  {Tab::documentReceipt, Press::batch, Feed::upright, "irat-tertiveveny DL 2", 0},
+                  {Tab::documentReceipt, Press::batch, Feed::sideways, "irat-tertiveveny own 2", 0},
                   {Tab::pinkCheck, Press::single, Feed::upright, "rozsaszin-csekk DL 1", 0},
                   {Tab::pinkCheck, Press::single, Feed::sideways, "rozsaszin-csekk A4 1", 0},
                   {Tab::pinkCheck, Press::batch, Feed::upright, "rozsaszin-csekk DL 2", 1},
