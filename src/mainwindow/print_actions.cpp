@@ -29,8 +29,17 @@ PrintOutcome PrintActions::print(const PrintRequest& request) {
                                u"%1. lap / %2…"_s.arg(pages.done).arg(pages.pages),
                                pages.canCancel ? WorkInProgress::Cancel::possible : WorkInProgress::Cancel::impossible);
     };
-    return dispatchPrint({desk_.device, desk_.services.prompts, desk_.folder, true, progress}, desk_.tabs, request,
-                         desk_.clients.rows(), desk_.selected.record.client.Nev.trimmed());
+    const ListRows rows = desk_.clients.rows();
+    std::size_t takenOut = 0;
+    const auto takeSelectedOut = [&] {
+        desk_.clients.removeSelected();
+        takenOut = rows.selected.size();
+    };
+    PrintOutcome outcome =
+        dispatchPrint({desk_.device, desk_.services.prompts, desk_.folder, true, progress, takeSelectedOut}, desk_.tabs,
+                      request, rows, desk_.selected.record.client.Nev.trimmed());
+    if (takenOut > 0) outcome.trouble.prepend(u"%1 sor levéve a listáról. "_s.arg(takenOut));
+    return outcome;
 }
 
 void PrintActions::report(const PrintOutcome& outcome) {

@@ -2,7 +2,9 @@
 
 #include "printing/amount_in_words.h"
 #include "printing/cash_on_delivery.h"
+#include "printing/document_receipt.h"
 #include "printing/pink_check.h"
+#include "printing/posting_receipt.h"
 #include "printing/return_receipt.h"
 #include "printing/yellow_check.h"
 #include "prompts/titles.h"
@@ -38,19 +40,19 @@ constexpr Route routes[] = {
     {Tab::returnReceipt, single, sideways, PrintFekvoTerti},
     {Tab::returnReceipt, batch, upright, PrintCsAlloTerti},
     {Tab::returnReceipt, batch, sideways, PrintCsFekvoTerti},
-    {Tab::postingReceipt, single, upright, notBuilt},
-    {Tab::postingReceipt, single, sideways, notBuilt},
-    {Tab::postingReceipt, batch, upright, notBuilt},
-    {Tab::postingReceipt, batch, sideways, notBuilt},
+    {Tab::postingReceipt, single, upright, PrintAlloFelado},
+    {Tab::postingReceipt, single, sideways, PrintFekvoFelado},
+    {Tab::postingReceipt, batch, upright, PrintCsAlloFelado},
+    {Tab::postingReceipt, batch, sideways, PrintCsFekvoFelado},
     {Tab::envelope, single, upright, notBuilt},
     {Tab::envelope, single, sideways, notBuilt},
     {Tab::envelope, batch, upright, notBuilt},
     {Tab::envelope, batch, sideways, notBuilt},
     {Tab::label, single, upright, notBuilt},
-    {Tab::documentReceipt, single, upright, notBuilt},
-    {Tab::documentReceipt, single, sideways, notBuilt},
-    {Tab::documentReceipt, batch, upright, notBuilt},
-    {Tab::documentReceipt, batch, sideways, notBuilt},
+    {Tab::documentReceipt, single, upright, PrintAlloIrat},
+    {Tab::documentReceipt, single, sideways, PrintFekvoIrat},
+    {Tab::documentReceipt, batch, upright, PrintCsAlloIrat},
+    {Tab::documentReceipt, batch, sideways, PrintCsFekvoIrat},
     {Tab::pinkCheck, single, upright, PrintAlloRCsekk},
     {Tab::pinkCheck, single, sideways, PrintFekvoRCsekk},
     {Tab::pinkCheck, batch, upright, PrintCsAlloRcsekk},
