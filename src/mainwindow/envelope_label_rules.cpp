@@ -1,6 +1,7 @@
 #include "mainwindow/envelope_label_rules.h"
 
 #include "prompts/titles.h"
+#include "records/number_text.h"
 
 #include <algorithm>
 

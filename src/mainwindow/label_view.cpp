@@ -1,6 +1,7 @@
 #include "controls/entry_combo.h"
 #include "mainwindow/envelope_label_rules.h"
 #include "mainwindow/form_views.h"
+#include "records/number_text.h"
 #include "records/record_file.h"
 #include "settings/envelope_label_settings.h"
 
