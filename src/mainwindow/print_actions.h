@@ -32,6 +32,7 @@ public:
 
 private:
     PrintOutcome print(const PrintRequest& request);
+    QString amountTrouble(const PrintRequest& request) const;
     void report(const PrintOutcome& outcome);
 
     Desk desk_;

@@ -1,5 +1,7 @@
 #include "records/number_text.h"
 
+#include <QVarLengthArray>
+
 #include <algorithm>
 #include <charconv>
 #include <cmath>
@@ -70,18 +72,18 @@ bool partsThousands(QStringView text, qsizetype at) {
 }
 
 // An amount without its blanks and thousands separators, with a point for the fraction.
-QString ungrouped(QStringView typed) {
-    QString text = typed.toString();
-    text.removeIf([](QChar c) { return c.category() == QChar::Separator_Space; });
-    QString number;
+QVarLengthArray<QChar, 48> ungrouped(QStringView typed) {
+    QVarLengthArray<QChar, 48> text;
+    for (const QChar c : typed)
+        if (c.category() != QChar::Separator_Space) text.append(c);
+    qsizetype kept = 0;
     for (qsizetype at = 0; at < text.size(); ++at) {
         const bool separates = text[at] == u'.' || text[at] == u',';
-        if (!separates)
-            number += text[at];
-        else if (!partsThousands(text, at))
-            number += u'.';
+        if (separates && partsThousands(text, at)) continue;
+        text[kept++] = separates ? u'.' : text[at];
     }
-    return number;
+    text.resize(kept);
+    return text;
 }
 
 } // namespace
@@ -121,7 +123,8 @@ std::int64_t amountOf(QStringView typed) {
 }
 
 std::optional<std::int64_t> plainAmount(QStringView typed) {
-    const QString digits = ungrouped(typed);
-    if (!std::all_of(digits.begin(), digits.end(), isDigit)) return std::nullopt;
-    return valueOf(digits.toStdString(), false);
+    const auto text = ungrouped(typed);
+    const Digits number = digitsAtHead(text);
+    const bool isPlain = number.whole.size() == static_cast<std::size_t>(text.size());
+    return isPlain ? std::optional(valueOf(number.whole, false)) : std::nullopt;
 }

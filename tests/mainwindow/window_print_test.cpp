@@ -146,6 +146,12 @@ TEST_F(WindowPrint, StatusLineOpensThePdfAndForgetsItForTheNextClient) {
     EXPECT_EQ(opened, QStringList(lastPdf));
     clickRow(1);
     EXPECT_EQ(status(), "");
+    for (const char* amount : {"12.50", "1500x", "12.500"}) {
+        type("txOsszeg", QString::fromLatin1(amount));
+        press("cmdPrint");
+        const bool agrees = status().ends_with(". ");
+        EXPECT_EQ(agrees, std::string(amount) == "12.500") << status();
+    }
     type("txOsszeg", QStringLiteral("0"));
     press("cmdPrint");
     EXPECT_EQ(status(), "Nem készült nyomat. Az összeg üres vagy nulla.");
