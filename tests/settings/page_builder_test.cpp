@@ -1,9 +1,6 @@
-#include "controls/entry_combo.h"
 #include "settings/receipt_layouts.h"
 #include "settings/setup/page_builder.h"
 #include "setup_fixture.h"
-
-#include <QWheelEvent>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -68,14 +65,4 @@ TEST(PageBuilder, FactoryValuesGoToTheBoxesFirstAndAreStoredWithTheRest) {
     const auto set = readRecord<SetTerti>(folder);
     EXPECT_EQ(set.txtTertiCimzett_x, Cur(68));
     EXPECT_EQ(set.txtTertiVisszakuldNev.trimmed(), u"Most írt név"_s);
-}
-
-TEST(EntryCombo, KeepsItsTextWhateverTheListAndTheWheelDo) {
-    EntryCombo box;
-    box.setEditText(u"Egyedi"_s);
-    box.offer({u"Arial"_s, u"Courier"_s});
-    QWheelEvent wheel({5, 5}, {5, 5}, {0, 0}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(&box, &wheel);
-    EXPECT_EQ(box.currentText(), u"Egyedi"_s);
-    EXPECT_FALSE(wheel.isAccepted());
 }
