@@ -143,6 +143,9 @@ void Tour::walkTabs() {
     const Variant variants[] = {
         {1, "opBelfold_1", "opBelfold_0", "03-tertiveveny-kulfoldi"},
         {3, "chkKepPrint", "chkKepPrint", "03-boritek-kep"},
+        {3, "OpB2", "OpB1", "03-boritek-c5"},
+        {3, "OpB3", "OpB1", "03-boritek-c56"},
+        {4, "chkEgyediCimke", "chkEgyediCimke", "03-etikett-egyedi"},
         {6, "cmdOldalCsere", "cmdOldalCsere", "03-rozsaszin-hatul"},
         {7, "cmdUtanvetOdalCsere", "cmdUtanvetOdalCsere", "03-utanvet-hatul"},
     };
