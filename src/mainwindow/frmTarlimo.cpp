@@ -86,7 +86,6 @@ void frmTarlimo::buildTabs() {
     SSTab1_->setObjectName(QStringLiteral("SSTab1"));
     yellowCheck_ = new YellowCheckView(tabs_.yellowCheck, context);
     labels_ = new LabelView(tabs_.label, context);
-    auto* cashOnDelivery = new CashOnDeliveryView(tabs_.cashOnDelivery, context);
     views_ = {yellowCheck_,
               new ReturnReceiptView(tabs_.returnReceipt, context),
               new PostingReceiptView(tabs_.postingReceipt, context),
@@ -94,15 +93,13 @@ void frmTarlimo::buildTabs() {
               labels_,
               new DocumentReceiptView(tabs_.documentReceipt, context),
               new PinkCheckView(tabs_.pinkCheck, context),
-              cashOnDelivery};
+              new CashOnDeliveryView(tabs_.cashOnDelivery, context)};
     for (int tab = 0; tab < tabCount; ++tab) {
         BoundView* view = views_[static_cast<std::size_t>(tab)];
         if (auto* form = qobject_cast<FormView*>(view)) form->page()->setObjectName(QLatin1String(tabRows[tab].page));
         SSTab1_->addTab(view, QString::fromUtf8(tabRows[tab].caption));
     }
     connect(yellowCheck_, &YellowCheckView::searchWanted, this, [this](const QString& text) { searchList(text, 0); });
-    connect(cashOnDelivery, &CashOnDeliveryView::partiesSwapped, this, &frmTarlimo::swapParties);
-    connect(labels_, &LabelView::tells, this, [this](const Message& message) { services_.prompts.tell(message); });
 }
 
 void frmTarlimo::buildLayout() {
@@ -225,7 +222,7 @@ void frmTarlimo::reloadTab(int tab) {
         reload(tabs_.envelope, readRecord<boritek>(folder_));
         break;
     case 4:
-        labels_->openSheet();
+        openSheet(tabs_.label, folder_, services_.prompts);
         break;
     case 5:
         reload(tabs_.documentReceipt, readRecord<SetTerti>(folder_));
@@ -271,10 +268,6 @@ void frmTarlimo::applyButtonRule() {
 void frmTarlimo::searchList(const QString& text, int keep) {
     clients_->search(text, keep);
     applyButtonRule();
-}
-
-void frmTarlimo::swapParties() {
-    chkCimzettCsereUlap_Click(tabs_.cashOnDelivery, selected_.record.client, readRecord<SetRcsekk>(folder_));
 }
 
 // From here on the device is the system's default one, until a routine selects another.

@@ -48,7 +48,6 @@ private:
     void applyButtonRule();
     // `keep` is the client whose row is selected again; 0 for none.
     void searchList(const QString& text, int keep);
-    void swapParties();
     void showAll();
 
     void followDefault();

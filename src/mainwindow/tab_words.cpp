@@ -1,5 +1,7 @@
 #include "mainwindow/tab_words.h"
 
+#include <QRegularExpression>
+
 #include <utility>
 
 namespace {
@@ -16,4 +18,11 @@ WordLines fitForTab(WordLines words, QStringView amount, PrintDevice& device, co
     if (measuredWidth(device, fontName, size, words.upper + words.lower) <= wordRowMm)
         words.upper += std::exchange(words.lower, QString());
     return words;
+}
+
+bool isPlainAmount(QStringView typed) {
+    QString digits = typed.toString();
+    digits.removeIf([](QChar c) { return c.category() == QChar::Separator_Space; });
+    static const QRegularExpression plain(QStringLiteral("^([0-9]+([.,][0-9]{3})*)?\\z"));
+    return plain.match(digits).hasMatch();
 }
