@@ -71,7 +71,7 @@ bool partsThousands(QStringView text, qsizetype at) {
     return digitAt(at - 1) && digitAt(at + 1) && digitAt(at + 2) && digitAt(at + 3) && !digitAt(at + 4);
 }
 
-// An amount without its blanks and thousands separators, with a point for the fraction.
+// An amount without its blanks and thousands separators.
 QVarLengthArray<QChar, 48> ungrouped(QStringView typed) {
     QVarLengthArray<QChar, 48> text;
     for (const QChar c : typed)
@@ -80,7 +80,7 @@ QVarLengthArray<QChar, 48> ungrouped(QStringView typed) {
     for (qsizetype at = 0; at < text.size(); ++at) {
         const bool separates = text[at] == u'.' || text[at] == u',';
         if (separates && partsThousands(text, at)) continue;
-        text[kept++] = separates ? u'.' : text[at];
+        text[kept++] = text[at];
     }
     text.resize(kept);
     return text;

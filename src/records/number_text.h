@@ -20,7 +20,7 @@ std::optional<Cur> decimalNumber(QStringView text);
 
 // Amounts in forints, as they stand in a box or a file. Blanks (also no-break and thin ones) count nowhere. A point or
 // comma with a digit before it and exactly three behind it parts thousands, so "12.500" is 12500 and "0.500" is 500;
-// any other begins the fraction: "12.50", "1.2345" and, behind thousands, "1.234,50".
+// any other point begins the fraction ("12.50", "1.2345"), and any other comma ends the number, as a letter does.
 
 // Whole forints that the head of a typed text reads as, rounded half up.
 std::int64_t amountOf(QStringView typed);
