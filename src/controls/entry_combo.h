@@ -24,16 +24,4 @@ public:
     // Shows a text, and moves the list to its entry if there is one, so that the arrow keys go on from there. No
     // signal.
     void showText(const QString& text);
-    // Drawn like the text boxes on the picture of a form, whose rows are lower than a combo box of the style.
-    void lieOnPaper();
-
-protected:
-    void paintEvent(QPaintEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
-    void changeEvent(QEvent* event) override;
-
-private:
-    int arrowWidth() const;
-
-    bool onPaper_ = false;
 };

@@ -1,5 +1,8 @@
 #include "exchange/csv_clients.h"
 
+#include "records/number_text.h"
+#include "records/windows1250.h"
+
 #include <algorithm>
 #include <charconv>
 #include <cstring>
@@ -10,20 +13,21 @@
 static_assert(sizeof(Client) == sizeof(ClientRec) + sizeof(TwinRec) && alignof(Client) == 1);
 
 const std::array<CsvColumn, 14> importColumns = {{
-    {offsetof(Client, client.Nev), sizeof(ClientRec::Nev), CsvRule::asItStands},
-    {offsetof(Client, client.Nev2), sizeof(ClientRec::Nev2), CsvRule::trimmed},
-    {offsetof(Client, client.Azonosito), sizeof(ClientRec::Azonosito), CsvRule::trimmed},
-    {offsetof(Client, client.Helyseg), sizeof(ClientRec::Helyseg), CsvRule::trimmed},
-    {offsetof(Client, client.Irsz), sizeof(ClientRec::Irsz), CsvRule::trimmed},
-    {offsetof(Client, client.Cim), sizeof(ClientRec::Cim), CsvRule::trimmed},
-    {offsetof(Client, client.Osszegek), sizeof(I32), CsvRule::amount},
-    {offsetof(Client, twin.Kozl3Sor), sizeof(TwinRec::Kozl3Sor), CsvRule::trimmed},
-    {offsetof(Client, client.FizHatIdo), sizeof(ClientRec::FizHatIdo), CsvRule::trimmed},
-    {offsetof(Client, twin.IratSzama), sizeof(TwinRec::IratSzama), CsvRule::trimmed},
-    {offsetof(Client, twin.IratFajtaja), sizeof(TwinRec::IratFajtaja), CsvRule::trimmed},
-    {offsetof(Client, twin.IratMelleklet), sizeof(TwinRec::IratMelleklet), CsvRule::trimmed},
-    {offsetof(Client, twin.KuldemenyAzonosito), sizeof(TwinRec::KuldemenyAzonosito), CsvRule::trimmed},
-    {offsetof(Client, twin.SajatJelzes), sizeof(TwinRec::SajatJelzes), CsvRule::trimmed},
+    {offsetof(Client, client.Nev), sizeof(ClientRec::Nev), CsvRule::asItStands, u"a Név"},
+    {offsetof(Client, client.Nev2), sizeof(ClientRec::Nev2), CsvRule::trimmed, u"a Név 2. sora"},
+    {offsetof(Client, client.Azonosito), sizeof(ClientRec::Azonosito), CsvRule::trimmed, u"a Befizetőazonosító"},
+    {offsetof(Client, client.Helyseg), sizeof(ClientRec::Helyseg), CsvRule::trimmed, u"a Helység"},
+    {offsetof(Client, client.Irsz), sizeof(ClientRec::Irsz), CsvRule::trimmed, u"az Irányítószám"},
+    {offsetof(Client, client.Cim), sizeof(ClientRec::Cim), CsvRule::trimmed, u"a Cím"},
+    {offsetof(Client, client.Osszegek), sizeof(I32), CsvRule::amount, u"az összeg"},
+    {offsetof(Client, twin.Kozl3Sor), sizeof(TwinRec::Kozl3Sor), CsvRule::trimmed, u"a Közlemény 3. sora"},
+    {offsetof(Client, client.FizHatIdo), sizeof(ClientRec::FizHatIdo), CsvRule::trimmed, u"a Fizetési határidő"},
+    {offsetof(Client, twin.IratSzama), sizeof(TwinRec::IratSzama), CsvRule::trimmed, u"az Irat száma"},
+    {offsetof(Client, twin.IratFajtaja), sizeof(TwinRec::IratFajtaja), CsvRule::trimmed, u"az Irat fajtája"},
+    {offsetof(Client, twin.IratMelleklet), sizeof(TwinRec::IratMelleklet), CsvRule::trimmed, u"az Irat melléklete"},
+    {offsetof(Client, twin.KuldemenyAzonosito), sizeof(TwinRec::KuldemenyAzonosito), CsvRule::trimmed,
+     u"a Küldemény azonosítója"},
+    {offsetof(Client, twin.SajatJelzes), sizeof(TwinRec::SajatJelzes), CsvRule::trimmed, u"az Ügyfél saját jelzése"},
 }};
 
 namespace {
@@ -45,16 +49,20 @@ Client blankClient() {
     return client;
 }
 
-// The amount, given without blanks; nothing if it is none. "Ft" and the ",-" of round sums may stand behind it.
-std::optional<std::int32_t> forints(QByteArrayView text) {
-    if (text.isEmpty()) return 0;
-    for (const QByteArrayView ending : {"ft.", "ft", ",-"})
-        if (text.size() > ending.size() && text.last(ending.size()).compare(ending, Qt::CaseInsensitive) == 0)
-            text.chop(ending.size());
-    std::int32_t value = 0;
-    const auto [end, error] = std::from_chars(text.begin(), text.end(), value);
-    if (error != std::errc() || end != text.end() || value < 0) return std::nullopt;
-    return value;
+// The amount of a field; nothing if it is none. "Ft" and the ",-" of round sums may stand behind it.
+std::optional<std::int32_t> forints(QByteArrayView field) {
+    std::int32_t plain = 0; // most are digits alone, and a file has many lines
+    const auto [end, error] = std::from_chars(field.begin(), field.end(), plain);
+    if (error == std::errc() && end == field.end() && plain >= 0) return plain;
+    const QString letters = QString::fromLatin1(field);
+    QStringView text = letters;
+    for (const QStringView ending : {u"ft.", u"ft", u",-"}) {
+        text = trimBlanks(text);
+        if (text.size() > ending.size() && text.endsWith(ending, Qt::CaseInsensitive)) text.chop(ending.size());
+    }
+    const std::optional<std::int64_t> amount = plainAmount(text);
+    if (!amount || *amount > std::numeric_limits<std::int32_t>::max()) return std::nullopt;
+    return static_cast<std::int32_t>(*amount);
 }
 
 } // namespace
@@ -105,27 +113,42 @@ void CsvClientReader::takeText(QByteArrayView text) {
     const std::size_t length = std::min(static_cast<std::size_t>(text.size()), column.width - used_);
     std::memcpy(reinterpret_cast<char*>(&client_) + column.offset + used_, text.data(), length);
     used_ += length;
+    const QByteArrayView surplus = text.sliced(static_cast<qsizetype>(length));
+    isCut_ = isCut_ || std::any_of(surplus.begin(), surplus.end(), [](char c) { return c != ' '; });
 }
 
-// One byte more than fits is counted but not kept: such an amount is none.
+// A run of blanks counts as one.
 void CsvClientReader::takeAmountText(QByteArrayView text) {
     for (const char c : text) {
-        if (c == ' ' || c == noBreakSpace || used_ > amount_.size()) continue;
-        if (used_ < amount_.size()) amount_[used_] = c;
-        ++used_;
+        const bool isBlank = c == ' ' || c == noBreakSpace;
+        if (isBlank && (used_ == 0 || amount_[used_ - 1] == ' ')) continue;
+        if (used_ < amount_.size()) amount_[used_++] = isBlank ? ' ' : c;
     }
+}
+
+void CsvClientReader::storeAmount(const CsvColumn& column) {
+    const QByteArrayView text(amount_.data(), static_cast<qsizetype>(used_));
+    const auto value = used_ < amount_.size() ? forints(text) : std::nullopt;
+    if (!value) note(column, windows1250::decode(text.trimmed()));
+    const I32 stored = value.value_or(0);
+    std::memcpy(reinterpret_cast<char*>(&client_) + column.offset, &stored, sizeof stored);
+}
+
+void CsvClientReader::note(const CsvColumn& column, const QString& amount) {
+    ++(column.rule == CsvRule::amount ? faults_.badAmounts : faults_.cutTexts);
+    if (faults_.first.size() == CsvFaults::mostListed) return;
+    faults_.first.push_back({line_, client_.client.Nev.trimmed(), column, amount});
 }
 
 void CsvClientReader::endField() {
-    if (column_ < columns_.size() && columns_[column_].rule == CsvRule::amount) {
-        const bool fits = used_ <= amount_.size();
-        const auto value = fits ? forints({amount_.data(), static_cast<qsizetype>(used_)}) : std::nullopt;
-        const I32 stored = value.value_or(0);
-        std::memcpy(reinterpret_cast<char*>(&client_) + columns_[column_].offset, &stored, sizeof stored);
-        if (!value) ++badAmounts_;
+    if (column_ < columns_.size()) {
+        const CsvColumn& column = columns_[column_];
+        if (column.rule == CsvRule::amount) storeAmount(column);
+        if (isCut_) note(column);
     }
     ++column_;
     used_ = 0;
+    isCut_ = false;
 }
 
 void CsvClientReader::endLine() {
@@ -135,4 +158,5 @@ void CsvClientReader::endLine() {
     client_ = blank;
     column_ = 0;
     lineHasBegun_ = false;
+    ++line_;
 }

@@ -1,6 +1,5 @@
 #include "exchange/csv_import.h"
 
-#include "exchange/csv_clients.h"
 #include "records/windows1250.h"
 
 #include <QFileInfo>
@@ -84,5 +83,22 @@ ImportOutcome importClients(QIODevice& csv, const ProgramFolder& folder, ImportM
     });
     if (!readClients(csv, *encoding, reader, progress)) return {};
     if (clients == 0) return {Result::empty};
-    return {replacement.commit() ? Result::imported : Result::notWritten, clients, reader.badAmounts()};
+    const Result result = replacement.commit() ? Result::imported : Result::notWritten;
+    const CsvFaults& faults = reader.faults();
+    return {result, clients, faults.badAmounts, faults.cutTexts, faults.first};
+}
+
+QStringList faultLines(const ImportOutcome& outcome) {
+    QStringList lines;
+    for (const CsvFault& fault : outcome.firstFaults) {
+        const QString client = fault.client.isEmpty() ? QString() : QStringLiteral(", ") + fault.client;
+        const QString name = QString::fromUtf16(fault.column.name);
+        const QString what = fault.column.rule == CsvRule::amount
+                                 ? QStringLiteral("nem értelmezhető: ''%1''").arg(fault.amount)
+                                 : QStringLiteral("levágva %1 betűre").arg(fault.column.width);
+        lines << QStringLiteral("%1. sor%2: %3 %4").arg(QString::number(fault.line), client, name, what);
+    }
+    const qint64 more = outcome.badAmounts + outcome.cutTexts - lines.size();
+    if (more > 0) lines << QStringLiteral("és további %1 helyen").arg(more);
+    return lines;
 }

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "exchange/csv_clients.h"
 #include "records/program_folder.h"
 
 #include <QIODevice>
+#include <QStringList>
 
 #include <functional>
 
@@ -17,9 +19,14 @@ struct ImportOutcome {
         notWritten  // the new database could not be written, or the old one not read: it is as it was
     };
     Result result = Result::unreadable;
-    qint64 clients = 0;    // lines read
-    qint64 badAmounts = 0; // of these, how many have an amount that could not be understood and became 0
+    qint64 clients = 0;                  // lines read
+    qint64 badAmounts = 0;               // of these, how many have an amount that could not be understood and became 0
+    qint64 cutTexts = 0;                 // how many texts were longer than their field
+    std::vector<CsvFault> firstFaults{}; // the first of both, in the order of the file
 };
+
+// A line for each of the first faults, in the user's words, and one that counts the rest; empty if there is none.
+QStringList faultLines(const ImportOutcome& outcome);
 
 // Called after each piece of a megabyte.
 using ProgressFn = std::function<void(qint64 bytesDone, qint64 bytesTotal)>;

@@ -1,24 +1,20 @@
 #include "mainwindow/bound_view.h"
 
 #include "controls/entry_combo.h"
+#include "controls/named.h"
 
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
 
-void BoundView::setName(QWidget* widget, const char* name, const char* tooltip) {
-    widget->setObjectName(QLatin1String(name));
-    // Tooltips are plain text: a name like "A<B" must not turn one into markup.
-    if (*tooltip != '\0') widget->setToolTip(QString::fromUtf8(tooltip).toHtmlEscaped());
-}
+#include <algorithm>
 
 QGroupBox* BoundView::frame(const char* name, const char* caption) {
-    auto* box = new QGroupBox(QString::fromUtf8(caption));
-    setName(box, name);
-    return box;
+    return named(new QGroupBox(QString::fromUtf8(caption)), name);
 }
 
 void BoundView::showValues() {
@@ -28,12 +24,32 @@ void BoundView::showValues() {
 
 void BoundView::onShow(std::function<void()> show) { shows_.push_back(std::move(show)); }
 
+void BoundView::carryOut(const QWidget* control) {
+    const Edit edit = edits_[control];
+    edit.rule();
+    showValues();
+    edit.step();
+    Q_EMIT edited();
+}
+
+void BoundView::takesTyping(QWidget* box, const QLineEdit* typing) {
+    boxes_.push_back(box);
+    connect(typing, &QLineEdit::returnPressed, this, [this, box] { goOn(box); });
+}
+
+void BoundView::goOn(const QWidget* box) {
+    auto next = std::find(boxes_.begin(), boxes_.end(), box);
+    do
+        if (++next == boxes_.end()) next = boxes_.begin();
+    while (*next != box && !((*next)->isVisible() && (*next)->isEnabled()));
+    (*next)->setFocus(Qt::TabFocusReason);
+}
+
 QLineEdit* BoundView::bindText(QString& value, const char* name, const char* tooltip) {
-    auto* box = new QLineEdit;
-    setName(box, name, tooltip);
+    auto* box = named(new QLineEdit, name, QString::fromUtf8(tooltip));
     connect(box, &QLineEdit::textChanged, this, [this, &value, box](const QString& text) {
         value = text;
-        Q_EMIT edited(box->objectName());
+        carryOut(box);
     });
     onShow([&value, box] {
         if (box->text() == value) return;
@@ -41,16 +57,16 @@ QLineEdit* BoundView::bindText(QString& value, const char* name, const char* too
         box->setText(value);
         box->setCursorPosition(0);
     });
+    takesTyping(box, box);
     return box;
 }
 
 EntryCombo* BoundView::bindCombo(QString& value, const QStringList& entries, const char* name, const char* tooltip) {
-    auto* box = new EntryCombo;
-    setName(box, name, tooltip);
+    auto* box = named(new EntryCombo, name, QString::fromUtf8(tooltip));
     connect(box, &QComboBox::editTextChanged, this, [this, &value, box](const QString& text) {
         if (text == value) return; // a chosen entry may come twice
         value = text;
-        Q_EMIT edited(box->objectName());
+        carryOut(box);
     });
     onShow([&value, &entries, box, offered = QStringList()]() mutable {
         if (offered != entries) box->offer(offered = entries);
@@ -58,23 +74,22 @@ EntryCombo* BoundView::bindCombo(QString& value, const QStringList& entries, con
         const QSignalBlocker block(box);
         box->setEditText(value);
     });
+    takesTyping(box, box->lineEdit());
     return box;
 }
 
 QLabel* BoundView::bindLabel(const QString& value, const char* name, const char* tooltip) {
-    auto* label = new QLabel;
-    setName(label, name, tooltip);
+    auto* label = named(new QLabel, name, QString::fromUtf8(tooltip));
     label->setTextFormat(Qt::PlainText);
     onShow([&value, label] { label->setText(value); });
     return label;
 }
 
 QAbstractButton* BoundView::bindCheck(bool& value, const char* name, const QString& caption, const char* tooltip) {
-    auto* box = new QCheckBox(caption);
-    setName(box, name, tooltip);
+    auto* box = named(new QCheckBox(caption), name, QString::fromUtf8(tooltip));
     connect(box, &QCheckBox::toggled, this, [this, &value, box](bool ticked) {
         value = ticked;
-        Q_EMIT edited(box->objectName());
+        carryOut(box);
     });
     onShow([&value, box] {
         const QSignalBlocker block(box);
@@ -84,13 +99,12 @@ QAbstractButton* BoundView::bindCheck(bool& value, const char* name, const QStri
 }
 
 QAbstractButton* BoundView::bindOption(const char* name, const QString& caption, std::function<bool()> isThis,
-                                       std::function<void()> choose) {
-    auto* option = new QRadioButton(caption);
-    setName(option, name);
+                                       std::function<void()> choose, const char* tooltip) {
+    auto* option = named(new QRadioButton(caption), name, QString::fromUtf8(tooltip));
     connect(option, &QRadioButton::toggled, this, [this, option, choose = std::move(choose)](bool on) {
         if (!on) return;
         choose();
-        Q_EMIT edited(option->objectName());
+        carryOut(option);
     });
     onShow([option, isThis = std::move(isThis)] {
         if (!isThis() || option->isChecked()) return;
@@ -100,7 +114,8 @@ QAbstractButton* BoundView::bindOption(const char* name, const QString& caption,
     return option;
 }
 
-void BoundView::setShown(std::initializer_list<const char*> names, bool shown) {
-    for (const char* child : names)
-        findChild<QWidget*>(QLatin1String(child))->setVisible(shown);
+QPushButton* BoundView::bindButton(const char* name, const QString& caption) {
+    auto* button = named(new QPushButton(caption), name);
+    connect(button, &QPushButton::clicked, this, [this, button] { carryOut(button); });
+    return button;
 }

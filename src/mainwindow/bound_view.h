@@ -1,12 +1,11 @@
 #pragma once
 
-#include "printing/print_device.h"
-#include "prompts/prompts.h"
-#include "records/client_database.h"
+#include "mainwindow/form_context.h"
 
 #include <QWidget>
 
 #include <functional>
+#include <unordered_map>
 #include <vector>
 
 class EntryCombo;
@@ -14,24 +13,12 @@ class QAbstractButton;
 class QGroupBox;
 class QLabel;
 class QLineEdit;
+class QPushButton;
 
-// The client last clicked, as read then; the number is 0 and the record zero while there is none.
-struct SelectedClient {
-    int rekordszam = 0;
-    Client record = {zeroRecord<ClientRec>(), zeroRecord<TwinRec>()};
-};
-
-// What the views and their rules reach of the program.
-struct FormContext {
-    const ProgramFolder& folder;
-    PrintDevice& device;
-    Prompts& prompts;
-    const SelectedClient& selected;
-};
-
-// A view whose widgets are each bound to one member of a tab's values. An edit is written into its member and told by
-// `edited`; the rule then changes the values, and showValues() brings them to the screen with signals blocked, so a
-// rule runs once for each new text. The values must outlive the view. Every widget's objectName is its control's name.
+// A view whose widgets are each bound to one member of a tab's values. An edit is written into its member, then the
+// control's rule changes the values, and showValues() brings them to the screen with signals blocked, so a rule runs
+// once for each new text. The values must outlive the view. Every widget's objectName is its control's name. ENTER goes
+// on to the next text box.
 class BoundView : public QWidget {
     Q_OBJECT
 public:
@@ -40,8 +27,8 @@ public:
     void showValues();
 
 Q_SIGNALS:
-    // The user (or a test) changed the control of this name; its member already holds the new value.
-    void edited(const QString& name);
+    // The user (or a test) changed a control or pressed a button: its rule has run and the values are shown.
+    void edited();
 
 protected:
     QLineEdit* bindText(QString& value, const char* name, const char* tooltip = "");
@@ -50,19 +37,37 @@ protected:
     QAbstractButton* bindCheck(bool& value, const char* name, const QString& caption, const char* tooltip = "");
     // An option button of a group; `isThis` and `choose` are its two directions.
     QAbstractButton* bindOption(const char* name, const QString& caption, std::function<bool()> isThis,
-                                std::function<void()> choose);
+                                std::function<void()> choose, const char* tooltip = "");
+    QPushButton* bindButton(const char* name, const QString& caption);
+
+    // The rule that an edit of the control runs. Its parameters behind the tab say what it needs; see supply().
+    template<class Tab, class... Needs>
+    void onEdit(const QWidget* control, Tab& tab, void (*rule)(Tab&, Needs...)) {
+        edits_[control].rule = [this, &tab, rule] {
+            [[maybe_unused]] const FormContext& reach = context_; // of a rule that needs nothing more
+            rule(tab, supply<std::remove_cvref_t<Needs>>(reach)...);
+        };
+    }
+    // What the view itself does once the values are shown again: it moves the focus, or tells the window.
+    void afterEdit(const QWidget* control, std::function<void()> step) { edits_[control].step = std::move(step); }
     // Runs whenever the values are shown.
     void onShow(std::function<void()> show);
-    // Shows or hides the named widgets of this view.
-    void setShown(std::initializer_list<const char*> names, bool shown);
-
-    const FormContext& context() const { return context_; }
 
     // A named box with a caption around controls.
     static QGroupBox* frame(const char* name, const char* caption);
-    static void setName(QWidget* widget, const char* name, const char* tooltip = "");
 
 private:
+    struct Edit {
+        std::function<void()> rule = [] {};
+        std::function<void()> step = [] {};
+    };
+    void carryOut(const QWidget* control);
+    // `typing` is the inner box of a combo, or the box itself.
+    void takesTyping(QWidget* box, const QLineEdit* typing);
+    void goOn(const QWidget* box);
+
     FormContext context_;
+    std::unordered_map<const QWidget*, Edit> edits_;
     std::vector<std::function<void()>> shows_;
+    std::vector<QWidget*> boxes_; // that take typing, in the order of the form
 };

@@ -58,7 +58,6 @@ void chkCimzettCsereUlap_Click(CashOnDeliveryTab& tab, const ClientRec& client, 
 }
 
 void txUosszeg_Change(CashOnDeliveryTab& tab, const Set& set, PrintDevice& device) {
-    tab.lbUosszeg = tab.txUosszeg;
     const WordRows rows = fitForForm(azaz1(clipped(amountOf(tab.txUosszeg))), device, set.ComboBetuTipus2.trimmed(),
                                      set.TextBetuMeret2, wordRowMm);
     tab.lbosszegBetuvel1 = rows.row1;

@@ -20,7 +20,7 @@ void reload(CashOnDeliveryTab& tab, const SetRcsekk& set);
 // Swaps the parties, or puts them back; `client` is the one last clicked.
 void chkCimzettCsereUlap_Click(CashOnDeliveryTab& tab, const ClientRec& client, const SetRcsekk& set);
 
-// A new amount: its copy and its words between stars, on two lines if wider than the form's row, or "**" for none.
+// A new amount: its words between stars, on two lines if wider than the form's row, or "**" for none.
 void txUosszeg_Change(CashOnDeliveryTab& tab, const Set& set, PrintDevice& device);
 
 // Turns the page.

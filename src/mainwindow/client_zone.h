@@ -27,6 +27,8 @@ public:
     void enterList() { view_->enter(); }
 
     ListRows rows() const;
+    // Takes the selected rows out of the list and tells how many; they come back when it is filled anew.
+    void removeSelected();
     int selectedCount() const { return static_cast<int>(view_->selectedRows().size()); }
     int recordNumber(int row) const { return model_.recordNumber(row); }
     void showCount(const QString& lbKijelolve);
@@ -50,7 +52,6 @@ Q_SIGNALS:
 private:
     QWidget* buildSide();
     void sortBy(int column);
-    void removeSelected();
     void tellFilled();
 
     const ProgramFolder& folder_;

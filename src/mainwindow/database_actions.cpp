@@ -106,10 +106,18 @@ ImportOutcome DatabaseActions::import(const QString& path, ImportMode mode) {
 
 // The closing messages, once the list stands.
 void DatabaseActions::tellImported(const ImportOutcome& outcome) {
+    const QString faults = faultLines(outcome).join(u'\n');
+    const QString check = u"Ellenőrízd a ''csv'' fájl helyességét."_s;
     if (outcome.badAmounts > 0)
         prompts_.tell({Icon::information, importTitle,
-                       u"A beolvasott adatokból %1 rekord összege nem értelmezhető, ezek összege 0 lett.\n"
-                       "Ellenőrízd a ''csv'' fájl helyességét."_s.arg(outcome.badAmounts)});
+                       u"A beolvasott adatokból %1 rekord összege nem értelmezhető, ezek összege 0 lett.\n"_s.arg(
+                           outcome.badAmounts) +
+                           check,
+                       faults});
+    else if (outcome.cutTexts > 0)
+        prompts_.tell({Icon::information, importTitle,
+                       u"A beolvasott adatokból %1 szöveg nem fért el a mezőjében.\n"_s.arg(outcome.cutTexts) + check,
+                       faults});
     prompts_.tell({Icon::information, importTitle,
                    u"Az adatbázis importálása befejeződött.\n\n"
                    "Ha a listamezőben az adatbázis nem megfelelő,\n"

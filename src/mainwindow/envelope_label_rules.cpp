@@ -1,6 +1,8 @@
 #include "mainwindow/envelope_label_rules.h"
 
 #include "prompts/titles.h"
+#include "records/number_text.h"
+#include "records/record_file.h"
 
 #include <algorithm>
 
@@ -91,6 +93,13 @@ void showCount(LabelTab& tab, const CimkeSetup& set) {
     tab.lbKinyomottCimkeNum = QString::number(set.lbKinyomottCimkeNum);
 }
 
+void openSheet(LabelTab& tab, const ProgramFolder& folder, Prompts& prompts) {
+    if (readRecord<CimkeSetup>(folder).txtOszlop == 0)
+        cmdCimkeMeretRogzites_Click(tab, folder, prompts);
+    else
+        layOutSheet(tab);
+}
+
 void layOutSheet(LabelTab& tab) { layOut(tab, 3, 8); }
 
 std::optional<Message> cmdCimkeMeretRogzites_Click(LabelTab& tab, CimkeSetup& set) {
@@ -114,6 +123,26 @@ std::optional<Message> cmdCimkeMeretRogzites_Click(LabelTab& tab, CimkeSetup& se
     set.txtSzeles = *width;
     set.txtMagas = *height;
     return std::nullopt;
+}
+
+void cmdCimkeMeretRogzites_Click(LabelTab& tab, const ProgramFolder& folder, Prompts& prompts) {
+    std::optional<Message> refused;
+    updateRecord<CimkeSetup>(folder, [&](CimkeSetup& set) { refused = cmdCimkeMeretRogzites_Click(tab, set); });
+    if (refused) prompts.tell(*refused);
+}
+
+void cmbBetutipusok_Click(LabelTab& tab, const ProgramFolder& folder, Prompts& prompts) {
+    const bool names = updateRecord<Betutip>(folder, [&tab](Betutip& set) {
+        for (std::size_t line = 0; line < 5; ++line)
+            set.ComboBetuTipus1[line].set(tab.ComboBetuTipus1[line]);
+    });
+    const bool sizes = updateRecord<Betumeret>(folder, [&tab](Betumeret& set) {
+        for (std::size_t line = 0; line < 5; ++line)
+            set.ComboBetuSize[line] = leadingI16(tab.ComboBetuSize[line]);
+    });
+    if (names && sizes)
+        prompts.tell(
+            {Icon::none, QStringLiteral("! Rendben !"), QStringLiteral(" \nA betűtípusok mentése megtörtént...\n ")});
 }
 
 void dropClient(LabelTab& tab, int recordNumber) {

@@ -3,6 +3,7 @@
 #include "printing/form_tabs.h"
 #include "prompts/prompts.h"
 #include "records/client_records.h"
+#include "records/program_folder.h"
 #include "settings/envelope_label_settings.h"
 
 #include <optional>
@@ -31,9 +32,10 @@ void showSheet(LabelTab& tab, const CimkeSetup& set);
 // The labels printed so far.
 void showCount(LabelTab& tab, const CimkeSetup& set);
 
-// The tab comes into view: the ticks follow the columns and rows of the boxes, and so do the shown label sizes of up to
-// 3 columns and 8 rows. Nothing is stored. Where the record holds no columns, cmdCimkeMeretRogzites_Click takes its
-// place.
+// The tab comes into view. The first visit stores the fallbacks of a sheet that was never fixed.
+void openSheet(LabelTab& tab, const ProgramFolder& folder, Prompts& prompts);
+// What any later visit does: the ticks follow the columns and rows of the boxes, and so do the shown label sizes of up
+// to 3 columns and 8 rows. Nothing is stored.
 void layOutSheet(LabelTab& tab);
 
 // Fixes the sheet: no tick and no client is left on it, columns and rows come from the boxes, and the label size
@@ -41,6 +43,11 @@ void layOutSheet(LabelTab& tab);
 // printed labels stays. A message says why the sheet was refused: `set` is as it was, but the ticks are gone all the
 // same.
 [[nodiscard]] std::optional<Message> cmdCimkeMeretRogzites_Click(LabelTab& tab, CimkeSetup& set);
+// The same on the stored sheet.
+void cmdCimkeMeretRogzites_Click(LabelTab& tab, const ProgramFolder& folder, Prompts& prompts);
+
+// Stores fonts and sizes of the five lines, and says so; silent where the files can't be written.
+void cmbBetutipusok_Click(LabelTab& tab, const ProgramFolder& folder, Prompts& prompts);
 
 // Client `recordNumber` was deleted: its places are free again, and those of the clients behind it follow their
 // numbers.

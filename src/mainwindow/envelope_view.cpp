@@ -1,9 +1,10 @@
-#include "mainwindow/envelope_label_rules.h"
+#include "controls/named.h"
 #include "mainwindow/envelope_picture.h"
 #include "mainwindow/form_views.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
+#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -19,7 +20,7 @@ struct TypeRow {
     const char* picture;
     const char* sampleName;
     QSizeF mm;
-    QPointF sender, addressee; // first lines on the picture, mm
+    QPointF sender, addressee; // corners of the two blocks of lines as drawn, mm
 };
 
 const TypeRow types[] = {
@@ -29,76 +30,96 @@ const TypeRow types[] = {
      "BoritekC6.jpg",
      "C6 Normál boríték",
      {162, 114},
-     {8, 8},
-     {84, 58}},
+     {8, 8.15},
+     {84, 58.05}},
     {EnvelopeType::C5,
      "OpB2",
      "C5 boríték (229 x 162 mm)",
      "BoritekC5.jpg",
      "C5 boríték",
      {229, 162},
-     {10, 10},
-     {125, 88}},
+     {11.31, 11.52},
+     {118.74, 82.06}},
     {EnvelopeType::C56,
      "OpB3",
      "C5/6 csekk boríték (229 x 114 mm)",
      "BoritekC56.jpg",
      "C5/6 csekk boríték",
      {229, 114},
-     {10, 8},
-     {125, 56}},
+     {11.31, 11.52},
+     {118.74, 56.07}},
 };
 
-QLabel* label(const char* name) {
-    auto* shown = new QLabel;
-    shown->setObjectName(QLatin1String(name));
-    return shown;
-}
+// The blocks on a C6 envelope, mm. The wider ones are drawn larger in proportion, so that a block has the same size on
+// the screen whatever the envelope.
+constexpr double senderRow = 3.9, addresseeRow = 4.7;
+constexpr QSizeF senderBlock(62.5, 4 * senderRow), freeLine(58, senderRow), addresseeBlock(75.4, 7 * addresseeRow);
+// Columns of a block, in proportion: the postcode, what the other lines have more, the ticks.
+constexpr int columns[] = {210, 490, 54};
+
+QLabel* label(const char* name) { return named(new QLabel, name); }
 
 const TypeRow& rowOf(EnvelopeType type) { return types[static_cast<int>(type) - 1]; }
 
 } // namespace
 
 EnvelopeView::EnvelopeView(EnvelopeTab& tab, const FormContext& context) : FormView(context, {162, 114}), tab_(tab) {
-    page()->setObjectName(QStringLiteral("Frame3"));
-    addLines("frameFelado",
-             {{tab.txtBoritekFeladoNev, "txtBoritekFeladoNev", "Feladó neve", &tab.chkFKFNev, "chkFKFNev"},
-              {tab.txtBoritekFeladoCim1, "txtBoritekFeladoCim1", "Feladó helysége", &tab.chkFKFCim1, "chkFKFCim1"},
-              {tab.txtBoritekFeladoCim2, "txtBoritekFeladoCim2", "Feladó címe", &tab.chkFKFCim2, "chkFKFCim2"},
-              {tab.txtBoritekFeladoIrSzam, "txtBoritekFeladoIrSzam", "Feladó irányítószáma", &tab.chkFKFIrsz,
-               "chkFKFIrsz"}});
-    addTexts({{tab.txtFelado5mezo, "txtFelado5mezo", {}, "Feladó alá szabadon írható szöveg..."}});
-    addLines(
-        "frameCimzett",
-        {{tab.txtBoritekCimzettNev, "txtBoritekCimzettNev", "Címzett neve", &tab.chkFKCNev, "chkFKCNev"},
-         {tab.txtBoritekCimzettNev2, "txtBoritekCimzettNev2", "Címzett második neve", &tab.chkFKCNev2, "chkFKCNev2"},
-         {tab.txtBoritekCimzettCim1, "txtBoritekCimzettCim1", "Címzett helysége", &tab.chkFKCCim1, "chkFKCCim1", 1},
-         {tab.txtBoritekCimzettCim2, "txtBoritekCimzettCim2", "Címzett címe", &tab.chkFKCCim2, "chkFKCCim2"},
-         {tab.txtBoritekCimzettIrSzam, "txtBoritekCimzettIrSzam", "Címzett irányítószáma", &tab.chkFKCIrsz,
-          "chkFKCIrsz", 1}});
+    onShow([this] {
+        const TypeRow& row = rowOf(tab_.type);
+        page()->setPicture(QString::fromLatin1(row.picture), row.mm);
+    });
+    buildLines();
     buildSide();
-    onShow([this] { placeForType(); });
-    connect(this, &FormView::edited, this, [this] { showValues(); });
 }
 
-// A block of text lines, each with the tick that makes it bold.
-void EnvelopeView::addLines(const char* name, std::initializer_list<Line> lines) {
-    auto* block = new QWidget;
-    block->setObjectName(QLatin1String(name));
+void EnvelopeView::buildLines() {
+    QWidget* sender =
+        lines("frameFelado",
+              {{tab_.txtBoritekFeladoNev, "txtBoritekFeladoNev", "Feladó neve", &tab_.chkFKFNev, "chkFKFNev"},
+               {tab_.txtBoritekFeladoCim1, "txtBoritekFeladoCim1", "Feladó helysége", &tab_.chkFKFCim1, "chkFKFCim1"},
+               {tab_.txtBoritekFeladoCim2, "txtBoritekFeladoCim2", "Feladó címe", &tab_.chkFKFCim2, "chkFKFCim2"},
+               {tab_.txtBoritekFeladoIrSzam, "txtBoritekFeladoIrSzam", "Feladó irányítószáma", &tab_.chkFKFIrsz,
+                "chkFKFIrsz"}});
+    QWidget* freeText = bindText(tab_.txtFelado5mezo, "txtFelado5mezo", "Feladó alá szabadon írható szöveg...");
+    QWidget* addressee = lines(
+        "frameCimzett",
+        {{tab_.txtBoritekCimzettNev, "txtBoritekCimzettNev", "Címzett neve", &tab_.chkFKCNev, "chkFKCNev"},
+         {tab_.txtBoritekCimzettNev2, "txtBoritekCimzettNev2", "Címzett második neve", &tab_.chkFKCNev2, "chkFKCNev2"},
+         {tab_.txtBoritekCimzettCim1, "txtBoritekCimzettCim1", "Címzett helysége", &tab_.chkFKCCim1, "chkFKCCim1",
+          true},
+         {tab_.txtBoritekCimzettCim2, "txtBoritekCimzettCim2", "Címzett címe", &tab_.chkFKCCim2, "chkFKCCim2"},
+         {tab_.txtBoritekCimzettIrSzam, "txtBoritekCimzettIrSzam", "Címzett irányítószáma", &tab_.chkFKCIrsz,
+          "chkFKCIrsz", true, true}});
+    onShow([this, sender, freeText, addressee] {
+        const TypeRow& row = rowOf(tab_.type);
+        const double scale = row.mm.width() / types[0].mm.width();
+        page()->place(sender, {row.sender, senderBlock * scale}, 2.9 * scale);
+        page()->place(freeText, {row.sender + QPointF(0, senderBlock.height() * scale), freeLine * scale}, 2.9 * scale);
+        page()->place(addressee, {row.addressee, addresseeBlock * scale}, 3.3 * scale);
+        sender->setVisible(tab_.chkFelado);
+        addressee->setVisible(tab_.chkCimzett);
+    });
+}
+
+// A block of text lines at an even distance, each with the tick that makes it bold.
+QWidget* EnvelopeView::lines(const char* name, std::initializer_list<Line> lines) {
+    auto* block = named(new QWidget, name);
     auto* grid = new QGridLayout(block);
     grid->setContentsMargins(0, 0, 0, 0);
-    grid->setSpacing(1);
+    grid->setSpacing(0);
+    for (int column = 0; const int width : columns)
+        grid->setColumnStretch(column++, width);
+    int row = 0;
     for (const Line& line : lines) {
-        const int row = grid->rowCount() + line.gapRows;
+        if (line.newBlock) grid->setRowStretch(row++, 1);
         QLineEdit* text = bindText(line.value, line.name, line.tooltip);
-        text->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+        text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
         QAbstractButton* bold = bindCheck(*line.bold, line.boldName, QString(), "Kipipálva félkövér nyomtatás...");
         bold->setAccessibleName(QString::fromUtf8(line.tooltip) + QStringLiteral(" félkövér"));
-        bold->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Ignored);
-        grid->addWidget(text, row, 0);
-        grid->addWidget(bold, row, 1);
-        grid->setRowStretch(row, 1);
-        if (line.gapRows > 0) grid->setRowStretch(row - 1, 1);
+        bold->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+        grid->addWidget(text, row, 0, 1, line.narrow ? 1 : 2);
+        grid->addWidget(bold, row, 2);
+        grid->setRowStretch(row++, 1);
         onShow([text, &isBold = *line.bold] {
             QFont font; // the weight alone: the size stays that of the page
             font.setBold(isBold);
@@ -106,6 +127,7 @@ void EnvelopeView::addLines(const char* name, std::initializer_list<Line> lines)
         });
     }
     page()->place(block, {});
+    return block;
 }
 
 // Options, sample and picture controls beside the envelope.
@@ -136,8 +158,7 @@ QWidget* EnvelopeView::buildTypes() {
 
 QWidget* EnvelopeView::buildSample() {
     QGroupBox* box = frame("Frame4", "Boríték minta");
-    auto* sample = new QFrame;
-    sample->setObjectName(QStringLiteral("BoritekMinta"));
+    auto* sample = named(new QFrame, "BoritekMinta");
     sample->setFrameStyle(QFrame::Box | QFrame::Plain);
     sample->setStyleSheet(QStringLiteral("QFrame#BoritekMinta { background: white; }"));
     QLabel* name = label("Label3");
@@ -163,13 +184,10 @@ QWidget* EnvelopeView::buildSample() {
 // The picture is on view where it was saved; choosing, moving and sizing it isn't built yet.
 QWidget* EnvelopeView::buildPicture() {
     QGroupBox* box = frame("Frame5", "Kép helyzete és mérete (mm)");
-    auto* find = new QPushButton(QStringLiteral("Kép keresés"));
-    find->setObjectName(QStringLiteral("cmdKepek"));
-    find->setToolTip(QStringLiteral("Kép keresése saját gépen..."));
-    auto* save = new QPushButton(QStringLiteral("Kép mentése"));
-    save->setObjectName(QStringLiteral("cmdKepMentese"));
-    auto* scale = new QScrollBar(Qt::Horizontal);
-    scale->setObjectName(QStringLiteral("HScroll1"));
+    auto* find = named(new QPushButton(QStringLiteral("Kép keresés")), "cmdKepek",
+                       QStringLiteral("Kép keresése saját gépen..."));
+    auto* save = named(new QPushButton(QStringLiteral("Kép mentése")), "cmdKepMentese");
+    auto* scale = named(new QScrollBar(Qt::Horizontal), "HScroll1");
     scale->setRange(1900, 8000);
     for (QWidget* later : std::initializer_list<QWidget*>{find, save, scale})
         later->setEnabled(false);
@@ -201,19 +219,4 @@ QWidget* EnvelopeView::buildPicture() {
         box->setVisible(tab_.chkKepPrint);
     });
     return box;
-}
-
-void EnvelopeView::placeForType() {
-    const TypeRow& row = rowOf(tab_.type);
-    page()->setPicture(QString::fromLatin1(row.picture), row.mm);
-    const double scale = row.mm.width() / 162.0; // the same size on the screen whatever the envelope
-    const auto put = [&](const char* name, QPointF at, QSizeF size, double letterMm) {
-        auto* widget = findChild<QWidget*>(QLatin1String(name));
-        page()->place(widget, {at, size * scale}, letterMm * scale);
-    };
-    put("frameFelado", row.sender, {62, 18}, 3);
-    put("txtFelado5mezo", row.sender + QPointF(0, 18.5 * scale), {57, 4.4}, 3);
-    put("frameCimzett", row.addressee, {72, 33}, 3.3);
-    setShown({"frameFelado"}, tab_.chkFelado);
-    setShown({"frameCimzett"}, tab_.chkCimzett);
 }

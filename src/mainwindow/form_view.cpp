@@ -1,6 +1,9 @@
 #include "mainwindow/form_view.h"
 
 #include "controls/entry_combo.h"
+#include "controls/named.h"
+#include "mainwindow/tab_words.h"
+#include "records/number_text.h"
 
 #include <QAbstractButton>
 #include <QHBoxLayout>
@@ -9,8 +12,16 @@
 #include <QPushButton>
 
 namespace {
+
+constexpr double dataMm = 2.75;
 constexpr double captionMm = 2.7; // letters of captions, smaller than those of the data
+
+QLineEdit* typedIn(QWidget* box) {
+    auto* combo = qobject_cast<QComboBox*>(box);
+    return combo != nullptr ? combo->lineEdit() : qobject_cast<QLineEdit*>(box);
 }
+
+} // namespace
 
 FormView::FormView(const FormContext& context, QSizeF sizeMm, QWidget* parent)
     : BoundView(context, parent)
@@ -20,63 +31,92 @@ FormView::FormView(const FormContext& context, QSizeF sizeMm, QWidget* parent)
     layout->addWidget(page_, 1);
 }
 
-QLineEdit* FormView::addText(const TextRow& row) {
-    QLineEdit* box = bindText(row.value, row.name, row.tooltip);
-    page_->place(box, row.mm);
-    return box;
+const FormView::Row& FormView::Row::then(std::function<void()> step) const {
+    view_.afterEdit(widget_, std::move(step));
+    return *this;
 }
 
-void FormView::addTexts(std::initializer_list<TextRow> rows) {
-    for (const TextRow& row : rows)
-        addText(row);
-}
-
-EntryCombo* FormView::addCombo(const TextRow& row, const QStringList& entries) {
-    EntryCombo* box = bindCombo(row.value, entries, row.name, row.tooltip);
-    box->lieOnPaper();
-    page_->place(box, row.mm);
-    return box;
-}
-
-void FormView::addLabels(std::initializer_list<TextRow> rows) {
-    for (const TextRow& row : rows)
-        page_->place(bindLabel(row.value, row.name, row.tooltip), row.mm);
-}
-
-void FormView::addChecks(std::initializer_list<CheckRow> rows) {
-    for (const CheckRow& row : rows)
-        addCheck(row, QString())->setAccessibleName(QString::fromUtf8(row.accessibleName));
-}
-
-QAbstractButton* FormView::addCheck(const CheckRow& row, const QString& caption) {
-    QAbstractButton* box = bindCheck(row.value, row.name, caption, row.tooltip);
-    page_->place(box, row.mm, captionMm);
-    return box;
-}
-
-void FormView::addMark(const bool& value, const char* objectName, QRectF mm) {
-    auto* mark = new QLabel(QStringLiteral("X"));
-    setName(mark, objectName);
-    mark->setAlignment(Qt::AlignCenter);
-    onShow([&value, mark] { mark->setVisible(value); });
-    page_->place(mark, mm);
-}
-
-void FormView::addOption(const char* objectName, QRectF mm, const char* tooltip, const char* caption,
-                         std::function<bool()> isThis, std::function<void()> choose) {
-    QAbstractButton* option = bindOption(objectName, QString::fromUtf8(caption), std::move(isThis), std::move(choose));
-    setName(option, objectName, tooltip);
-    page_->place(option, mm, captionMm);
-}
-
-void FormView::addButton(const char* objectName, QRectF mm, std::function<QString()> caption,
-                         std::function<void()> press) {
-    auto* button = new QPushButton;
-    setName(button, objectName);
-    connect(button, &QPushButton::clicked, this, [this, press = std::move(press)] {
-        press();
-        showValues();
+const FormView::Row& FormView::Row::at(const Rows& group, QRectF mm) const {
+    view_.onShow([row = *this, group, mm] {
+        row.view_.page()->place(row.widget_, group.shown() ? mm : row.mm_, row.letterMm_);
     });
-    onShow([button, caption = std::move(caption)] { button->setText(caption()); });
-    page_->place(button, mm, captionMm);
+    return *this;
+}
+
+const FormView::Row& FormView::Row::hint(const char* text) const {
+    typedIn(widget_)->setPlaceholderText(QString::fromUtf8(text));
+    return *this;
+}
+
+const FormView::Row& FormView::Row::asAmount() const {
+    view_.onShow([box = widget_, typed = typedIn(widget_), tooltip = widget_->toolTip()] {
+        const bool agrees = isPlainAmount(typed->text());
+        PaperStyle::setDoubtful(typed, !agrees);
+        box->setToolTip(agrees ? tooltip
+                               : QStringLiteral("A számjegyek és a betűs összeg eltér: a betűs összeg %1.")
+                                     .arg(amountOf(typed->text())));
+    });
+    return *this;
+}
+
+FormView::Row FormView::Rows::put(QWidget* widget, QRectF mm) const { return put(widget, mm, dataMm); }
+
+FormView::Row FormView::Rows::put(QWidget* widget, QRectF mm, double letterMm) const {
+    view_.page()->place(widget, mm, letterMm);
+    if (shown_) view_.onShow([widget, shown = shown_] { widget->setVisible(shown()); });
+    return {view_, widget, mm, letterMm};
+}
+
+FormView::Row FormView::Rows::text(QString& value, const char* name, QRectF mm, const char* tooltip) const {
+    return put(view_.bindText(value, name, tooltip), mm);
+}
+
+FormView::Row FormView::Rows::combo(QString& value, const QStringList& entries, const char* name, QRectF mm,
+                                    const char* tooltip) const {
+    return put(view_.bindCombo(value, entries, name, tooltip), mm);
+}
+
+FormView::Row FormView::Rows::mirror(const QString& value, const char* name, QRectF mm, const char* tooltip) const {
+    auto* box = named(new QLineEdit, name, QString::fromUtf8(tooltip));
+    box->setReadOnly(true);
+    box->setFocusPolicy(Qt::ClickFocus);
+    view_.onShow([&value, box] {
+        box->setText(value);
+        box->setCursorPosition(0);
+    });
+    return put(box, mm);
+}
+
+FormView::Row FormView::Rows::label(const QString& value, const char* name, QRectF mm) const {
+    return put(view_.bindLabel(value, name), mm);
+}
+
+FormView::Row FormView::Rows::tick(bool& value, const char* name, QRectF mm, const char* tooltip,
+                                   const char* accessibleName) const {
+    QAbstractButton* box = view_.bindCheck(value, name, QString(), tooltip);
+    box->setAccessibleName(QString::fromUtf8(accessibleName));
+    return put(box, mm, captionMm);
+}
+
+FormView::Row FormView::Rows::mark(const bool& value, const char* name, QRectF mm) const {
+    auto* mark = named(new QLabel(QStringLiteral("X")), name);
+    mark->setAlignment(Qt::AlignCenter);
+    return view_.rows([group = *this, &value] { return group.shown() && value; }).put(mark, mm);
+}
+
+FormView::Row FormView::Rows::check(bool& value, const char* name, QRectF mm, const char* caption,
+                                    const char* tooltip) const {
+    return put(view_.bindCheck(value, name, QString::fromUtf8(caption), tooltip), mm, captionMm);
+}
+
+FormView::Row FormView::Rows::option(const char* name, QRectF mm, const char* caption, const char* tooltip,
+                                     std::function<bool()> isThis, std::function<void()> choose) const {
+    const QString text = QString::fromUtf8(caption);
+    return put(view_.bindOption(name, text, std::move(isThis), std::move(choose), tooltip), mm, captionMm);
+}
+
+FormView::Row FormView::Rows::button(const char* name, QRectF mm, std::function<QString()> caption) const {
+    QPushButton* box = view_.bindButton(name, QString());
+    view_.onShow([box, caption = std::move(caption)] { box->setText(caption()); });
+    return put(box, mm, captionMm);
 }

@@ -3,17 +3,11 @@
 #include "mainwindow/envelope_label_rules.h"
 #include "mainwindow/form_view.h"
 #include "printing/form_tabs.h"
-#include "prompts/prompts.h"
 
-#include <QGroupBox>
-
-class QCheckBox;
-class QComboBox;
 class QGridLayout;
-class QPushButton;
 
-// The eight tabs. Each view binds the controls of its form to the tab's values and runs the tab's rules on an edit.
-// What concerns the whole window (live search, a settings file to store) leaves through signals.
+// The eight tabs. Each view is the table of its form's controls: bound to the tab's values, with the rules that their
+// edits run. The live search, which concerns the whole window, leaves through a signal.
 
 class YellowCheckView : public FormView {
     Q_OBJECT
@@ -33,21 +27,14 @@ Q_SIGNALS:
     void searchWanted(const QString& text);
 
 private:
-    void runRule(const QString& name);
-
-    YellowCheckTab& tab_;
-    QLineEdit* searchBox_ = nullptr;
     Catalogues catalogues_;
+    QLineEdit* searchBox_;
 };
 
 class ReturnReceiptView : public FormView {
     Q_OBJECT
 public:
     ReturnReceiptView(ReturnReceiptTab& tab, const FormContext& context);
-
-private:
-    void placeForVariant();
-    ReturnReceiptTab& tab_;
 };
 
 class PostingReceiptView : public FormView {
@@ -68,14 +55,15 @@ private:
         const char* tooltip;
         bool* bold;
         const char* boldName;
-        int gapRows = 0; // empty rows ahead, as on the paper
+        bool newBlock = false; // an empty row ahead, as on the paper
+        bool narrow = false;   // leaves room for what the paper says beside the box
     };
-    void addLines(const char* name, std::initializer_list<Line> lines);
+    QWidget* lines(const char* name, std::initializer_list<Line> lines);
+    void buildLines();
     void buildSide();
     QWidget* buildTypes();
     QWidget* buildSample();
     QWidget* buildPicture();
-    void placeForType();
     EnvelopeTab& tab_;
 };
 
@@ -87,11 +75,6 @@ public:
 
     // Fonts that the five boxes offer.
     void offerFonts(const QStringList& fonts);
-    // The tab comes into view. The first visit stores the fallbacks of a sheet that was never fixed.
-    void openSheet();
-
-Q_SIGNALS:
-    void tells(const Message& message);
 
 private:
     QGroupBox* buildFonts();
@@ -101,13 +84,12 @@ private:
     QGroupBox* buildCustom();
     void showGrid();
     QFont lineFont(std::size_t line) const;
-    void cmbBetutipusok_Click();
-    void cmdCimkeMeretRogzites_Click();
 
     LabelTab& tab_;
     QStringList fonts_;
     QStringList sizes_;
     QGridLayout* cells_ = nullptr;
+    std::vector<QWidget*> ticks_; // by place
     LabelGrid shownGrid_;
 };
 
@@ -121,23 +103,10 @@ class PinkCheckView : public FormView {
     Q_OBJECT
 public:
     PinkCheckView(PinkCheckTab& tab, const FormContext& context);
-
-private:
-    void showSide();
-    void runRule(const QString& name);
-    PinkCheckTab& tab_;
 };
 
 class CashOnDeliveryView : public FormView {
     Q_OBJECT
 public:
     CashOnDeliveryView(CashOnDeliveryTab& tab, const FormContext& context);
-
-Q_SIGNALS:
-    // The tick of the swap changed; the window has the client that it works on.
-    void partiesSwapped();
-
-private:
-    void showSide();
-    CashOnDeliveryTab& tab_;
 };

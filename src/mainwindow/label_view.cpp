@@ -1,49 +1,66 @@
 #include "controls/entry_combo.h"
+#include "controls/named.h"
 #include "mainwindow/envelope_label_rules.h"
 #include "mainwindow/form_views.h"
-#include "records/record_file.h"
-#include "settings/envelope_label_settings.h"
+#include "records/number_text.h"
 
 #include <QCheckBox>
-#include <QFormLayout>
 #include <QGridLayout>
+#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScrollArea>
 
+#include <algorithm>
+
 namespace {
 
+// What a line without a font or size of its own prints in.
+QString defaultFont() { return QStringLiteral("Times New Roman CE"); }
+constexpr int defaultSize = 12;
+
 QByteArray indexed(const char* name, int index) { return QByteArray(name) + '_' + QByteArray::number(index); }
+
+// The tab has more rows than any form: with the style's own gaps it would be higher than they are.
+QGridLayout* compactGrid(QWidget* box) {
+    auto* grid = new QGridLayout(box);
+    grid->setContentsMargins(8, 3, 8, 3);
+    grid->setVerticalSpacing(2);
+    return grid;
+}
 
 } // namespace
 
 LabelView::LabelView(LabelTab& tab, const FormContext& context) : BoundView(context), tab_(tab) {
     for (int size = 10; size <= 24; size += 2)
         sizes_ << QString::number(size);
-    auto* grid = new QGridLayout(this);
-    grid->addWidget(buildFonts(), 0, 0);
-    grid->addWidget(buildSheet(), 1, 0);
-    grid->addWidget(buildGrid(), 0, 1, 2, 1);
-    grid->addWidget(buildPreview(), 0, 2);
-    grid->addWidget(buildCustom(), 1, 2);
-    auto* note = new QLabel(QStringLiteral(
+    auto* columns = new QHBoxLayout;
+    const auto column = [columns](int stretch, std::initializer_list<QWidget*> boxes) {
+        auto* stack = new QVBoxLayout;
+        for (QWidget* box : boxes)
+            stack->addWidget(box);
+        columns->addLayout(stack, stretch);
+    };
+    column(0, {buildFonts(), buildSheet()});
+    column(1, {buildGrid()});
+    column(0, {buildPreview(), buildCustom()});
+    const QString help = QStringLiteral(
         "A nyomtatni kívánt cimké(ke)t ki kell pipálni. A nyomtatáskor csak a kipipált cimkék kerülnek nyomtatásra. "
         "Oszlop vagy sor állítás után meg kell nyomni a Rögzítés gombot. A cimkék méretét a program automatikusan "
-        "kiszámolja a sor és oszlop adatokból. "));
-    note->setObjectName(QStringLiteral("Label5"));
+        "kiszámolja a sor és oszlop adatokból. ");
+    auto* note = named(new QLabel(help), "Label5", help); // a narrow window cuts it
     note->setWordWrap(true);
     note->setAlignment(Qt::AlignTop);
     // A wrapped label guesses its height from a narrow width and would make the whole window higher.
-    note->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
-    note->setMinimumHeight(2 * note->fontMetrics().lineSpacing());
-    grid->addWidget(note, 2, 0, 1, 3);
-    grid->setRowMinimumHeight(2, note->minimumHeight());
-    grid->setColumnStretch(1, 1);
-    grid->setColumnMinimumWidth(1, 200);
-    grid->setRowStretch(1, 1);
+    note->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    note->setFixedHeight(2 * note->fontMetrics().lineSpacing());
+    auto* stack = new QVBoxLayout(this);
+    stack->setContentsMargins(6, 4, 6, 4);
+    stack->setSpacing(4);
+    stack->addLayout(columns, 1);
+    stack->addWidget(note);
     onShow([this] { showGrid(); });
-    connect(this, &BoundView::edited, this, [this] { showValues(); });
 }
 
 void LabelView::offerFonts(const QStringList& fonts) {
@@ -51,47 +68,18 @@ void LabelView::offerFonts(const QStringList& fonts) {
     showValues();
 }
 
-void LabelView::openSheet() {
-    if (readRecord<CimkeSetup>(context().folder).txtOszlop == 0)
-        cmdCimkeMeretRogzites_Click();
-    else
-        layOutSheet(tab_);
-    showValues();
-}
-
-void LabelView::cmdCimkeMeretRogzites_Click() {
-    std::optional<Message> refusal;
-    updateRecord<CimkeSetup>(context().folder,
-                             [&](CimkeSetup& set) { refusal = ::cmdCimkeMeretRogzites_Click(tab_, set); });
-    showValues();
-    if (refusal) Q_EMIT tells(*refusal);
-}
-
-void LabelView::cmbBetutipusok_Click() {
-    const bool names = updateRecord<Betutip>(context().folder, [this](Betutip& set) {
-        for (std::size_t line = 0; line < 5; ++line)
-            set.ComboBetuTipus1[line].set(tab_.ComboBetuTipus1[line]);
-    });
-    const bool sizes = updateRecord<Betumeret>(context().folder, [this](Betumeret& set) {
-        for (std::size_t line = 0; line < 5; ++line)
-            set.ComboBetuSize[line] = leadingI16(tab_.ComboBetuSize[line]);
-    });
-    if (names && sizes)
-        Q_EMIT tells(
-            {Icon::none, QStringLiteral("! Rendben !"), QStringLiteral(" \nA betűtípusok mentése megtörtént...\n ")});
-}
-
 QGroupBox* LabelView::buildFonts() {
     QGroupBox* box = frame("Frame6", "Betűtípus és betűméret");
     box->setMaximumWidth(360);
-    auto* grid = new QGridLayout(box);
-    auto* sample = new QLabel(QStringLiteral("Minta"));
-    sample->setObjectName(QStringLiteral("lbMinta"));
+    QGridLayout* grid = compactGrid(box);
+    auto* sample = named(new QLabel(QStringLiteral("Minta")), "lbMinta");
     sample->setFixedHeight(26); // a large font shows its upper part
     for (int line = 0; line < 5; ++line) {
         const auto index = static_cast<std::size_t>(line);
         EntryCombo* font = bindCombo(tab_.ComboBetuTipus1[index], fonts_, indexed("ComboBetuTipus1", line));
         EntryCombo* size = bindCombo(tab_.ComboBetuSize[index], sizes_, indexed("ComboBetuSize", line));
+        font->lineEdit()->setPlaceholderText(defaultFont());
+        size->lineEdit()->setPlaceholderText(QString::number(defaultSize));
         font->setMinimumContentsLength(12);
         size->setMinimumContentsLength(2);
         grid->addWidget(new QLabel(QStringLiteral("%1. sor").arg(line + 1)), line, 0);
@@ -104,9 +92,8 @@ QGroupBox* LabelView::buildFonts() {
         connect(size, &QComboBox::editTextChanged, sample, showSample);
     }
     grid->addWidget(sample, 5, 0);
-    auto* save = new QPushButton(QStringLiteral("&Betűtípus és méret mentése"));
-    save->setObjectName(QStringLiteral("cmbBetutipusok"));
-    connect(save, &QPushButton::clicked, this, &LabelView::cmbBetutipusok_Click);
+    QPushButton* save = bindButton("cmbBetutipusok", QStringLiteral("&Betűtípus és méret mentése"));
+    onEdit(save, tab_, cmbBetutipusok_Click);
     grid->addWidget(save, 5, 1, 1, 2);
     return box;
 }
@@ -114,7 +101,7 @@ QGroupBox* LabelView::buildFonts() {
 QGroupBox* LabelView::buildSheet() {
     QGroupBox* box = frame("Frame7", "Cimke méret beállítása");
     box->setMaximumWidth(360);
-    auto* form = new QGridLayout(box);
+    QGridLayout* form = compactGrid(box);
     static const QStringList columns{QStringLiteral("4"), QStringLiteral("3"), QStringLiteral("2"),
                                      QStringLiteral("1")};
     static const QStringList rows{QStringLiteral("10"), QStringLiteral("9"), QStringLiteral("8"), QStringLiteral("7"),
@@ -132,9 +119,8 @@ QGroupBox* LabelView::buildSheet() {
     add(2, 0,
         "Balról:", bindText(tab_.txtLeft, "txtLeft", "A név első karakterének pozíciója az A4-es lap bal szélétől."));
     add(2, 2, "Fentről:", bindText(tab_.txtTop, "txtTop", "A név első karakterének pozíciója az A4-es lap tetejétől."));
-    auto* store = new QPushButton(QStringLiteral("&Rögzítés"));
-    store->setObjectName(QStringLiteral("cmdCimkeMeretRogzites"));
-    connect(store, &QPushButton::clicked, this, &LabelView::cmdCimkeMeretRogzites_Click);
+    QPushButton* store = bindButton("cmdCimkeMeretRogzites", QStringLiteral("&Rögzítés"));
+    onEdit(store, tab_, cmdCimkeMeretRogzites_Click);
     form->addWidget(store, 3, 0, 1, 4);
     form->addWidget(new QLabel(QStringLiteral("Eddig kinyomtatott cimkék száma: ")), 4, 0, 1, 3);
     form->addWidget(bindLabel(tab_.lbKinyomottCimkeNum, "lbKinyomottCimkeNum"), 4, 3);
@@ -152,6 +138,7 @@ QGroupBox* LabelView::buildGrid() {
         onShow(
             [this, index, tick] { tick->setText(QString(tab_.captions[index]).replace(u'&', QStringLiteral("&&"))); });
         tick->setParent(box);
+        ticks_.push_back(tick);
     }
     return box;
 }
@@ -160,19 +147,20 @@ void LabelView::showGrid() {
     const LabelGrid grid = labelGrid(tab_);
     if (grid == shownGrid_) return; // a click on a client must not lay out forty boxes anew
     shownGrid_ = grid;
-    for (int cell = 0; cell < 40; ++cell) {
-        auto* tick = findChild<QAbstractButton*>(QStringLiteral("chkCimke1_%1").arg(cell + 1));
+    for (int cell = 0; QWidget * tick : ticks_) {
         tick->setVisible(cell < grid.columns * grid.rows);
         if (grid.columns > 0) cells_->addWidget(tick, cell / grid.columns, cell % grid.columns);
+        ++cell;
     }
 }
 
-// Font of a label line for the screen; sizes that no label has, and no size, are shown in one that can be read.
+// Font of a label line for the screen; sizes that no label has are shown in one that can be read.
 QFont LabelView::lineFont(std::size_t line) const {
+    const QString name = trimBlanks(tab_.ComboBetuTipus1[line]).toString();
     const int size = leadingI16(tab_.ComboBetuSize[line]);
-    QFont shown = font();
-    if (const QString name = trimBlanks(tab_.ComboBetuTipus1[line]).toString(); !name.isEmpty()) shown.setFamily(name);
-    if (size > 0) shown.setPointSize(std::clamp(size, 6, 48));
+    QFont shown(name.isEmpty() ? defaultFont() : name);
+    shown.setStyleHint(QFont::Times); // for a screen that hasn't the printer's font
+    shown.setPointSize(size > 0 ? std::clamp(size, 6, 48) : defaultSize);
     return shown;
 }
 
@@ -210,18 +198,23 @@ QGroupBox* LabelView::buildPreview() {
     return box;
 }
 
+// The room of the custom text is there whether it shows or not: a tick must not change the height of the window.
 QGroupBox* LabelView::buildCustom() {
     auto* outer = new QGroupBox;
     outer->setFlat(true);
     auto* layout = new QVBoxLayout(outer);
+    layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(bindCheck(tab_.chkEgyediCimke, "chkEgyediCimke", QStringLiteral("Egyedi cimke nyomtatás")));
     QGroupBox* box = frame("keretEgyediCimke", "Egyedi cimke");
     auto* lines = new QVBoxLayout(box);
+    lines->setContentsMargins(6, 2, 6, 4);
+    lines->setSpacing(2);
     for (int line = 0; line < 5; ++line)
         lines->addWidget(bindText(tab_.txEgyediCimke[static_cast<std::size_t>(line)], indexed("txEgyediCimke", line)));
-    box->hide(); // from the start, so that the window's least height never counts it
+    QSizePolicy keepsRoom = box->sizePolicy();
+    keepsRoom.setRetainSizeWhenHidden(true);
+    box->setSizePolicy(keepsRoom);
     layout->addWidget(box);
-    layout->addStretch();
     onShow([this, box] { box->setVisible(tab_.chkEgyediCimke); });
     return outer;
 }

@@ -18,10 +18,10 @@ void setSender(PinkCheckTab& tab, const Party& party, const QString& addressLine
 }
 
 void setAddressee(PinkCheckTab& tab, const Party& party) {
-    tab.RlbNev = tab.txtNev = party.name;
-    tab.RlbHelys = tab.txtHelys = party.settlement;
-    tab.RlbCim = tab.txtCim = party.street;
-    tab.RlbIrsz = tab.txtIrsz = party.postcode;
+    tab.RlbNev = party.name;
+    tab.RlbHelys = party.settlement;
+    tab.RlbCim = party.street;
+    tab.RlbIrsz = party.postcode;
 }
 
 } // namespace
@@ -31,12 +31,13 @@ void RtxOsszeg_Change(PinkCheckTab& tab, const SetRcsekk& set, PrintDevice& devi
                                       set.cmbRcsekkSzovegBetuTipus.trimmed(), set.TextRcsekkBetuMeret2);
     tab.RtxtSzoveg21 = words.upper;
     tab.RtxtSzoveg11 = words.lower;
-    tab.RlbOsszeg = tab.RtxOsszeg;
-    tab.lbOsszeg2 = tab.RtxOsszeg;
-    if (words.upper.isEmpty()) return;
+    if (!words.upper.isEmpty()) copyWords(tab);
+}
+
+void copyWords(PinkCheckTab& tab) {
     // Here 1 is the upper line and 2 the lower one, against the names of the words themselves.
-    tab.RtxtSzoveg12 = words.upper;
-    tab.RtxtSzoveg22 = words.lower;
+    tab.RtxtSzoveg12 = tab.RtxtSzoveg21;
+    tab.RtxtSzoveg22 = tab.RtxtSzoveg11;
 }
 
 void opAllando_Click(PinkCheckTab& tab, const SetRcsekk& set) {

@@ -4,6 +4,7 @@
 #include "mainwindow/print_panel.h"
 #include "mainwindow/status_line.h"
 #include "mainwindow/work_in_progress.h"
+#include "records/number_text.h"
 
 #include <QApplication>
 #include <QPointer>
@@ -14,7 +15,9 @@ void PrintActions::press(Press press, Tab tab) {
     if (desk_.work.isBusy()) return;
     const QPointer<QWidget> focus = QApplication::focusWidget();
     desk_.panel.setButtonsEnabled(false);
-    const PrintOutcome outcome = print({tab, press, desk_.panel.feed()});
+    const PrintRequest request{tab, press, desk_.panel.feed()};
+    PrintOutcome outcome = print(request);
+    if (outcome.trouble.isEmpty()) outcome.trouble = amountTrouble(request);
     desk_.panel.setButtonsEnabled(true);
     report(outcome);
     Q_EMIT printed(tab);
@@ -30,8 +33,27 @@ PrintOutcome PrintActions::print(const PrintRequest& request) {
                                u"%1. lap / %2…"_s.arg(pages.done).arg(pages.pages),
                                pages.canCancel ? WorkInProgress::Cancel::possible : WorkInProgress::Cancel::impossible);
     };
-    return dispatchPrint({desk_.device, desk_.services.prompts, desk_.folder, true, progress}, desk_.tabs, request,
-                         desk_.clients.rows(), desk_.selected.record.client.Nev.trimmed());
+    const ListRows rows = desk_.clients.rows();
+    std::size_t takenOut = 0;
+    const auto takeSelectedOut = [&] {
+        desk_.clients.removeSelected();
+        takenOut = rows.selected.size();
+    };
+    PrintOutcome outcome =
+        dispatchPrint({desk_.device, desk_.services.prompts, desk_.folder, true, progress, takeSelectedOut}, desk_.tabs,
+                      request, rows, desk_.selected.record.client.Nev.trimmed());
+    if (takenOut > 0) outcome.trouble.prepend(u"%1 sor levéve a listáról. "_s.arg(takenOut));
+    return outcome;
+}
+
+// Digits print as they were typed, the words say what was read of them.
+QString PrintActions::amountTrouble(const PrintRequest& request) const {
+    const QString* amount = nullptr;
+    if (request.tab == Tab::yellowCheck) amount = &desk_.tabs.yellowCheck.txOsszeg;
+    if (request.tab == Tab::pinkCheck) amount = &desk_.tabs.pinkCheck.RtxOsszeg;
+    if (request.tab == Tab::cashOnDelivery) amount = &desk_.tabs.cashOnDelivery.txUosszeg;
+    const bool agrees = amount == nullptr || request.press == Press::batch || isPlainAmount(*amount);
+    return agrees ? QString() : u"Az összeg számjegyei és betűi nem egyeznek: "_s + *amount;
 }
 
 void PrintActions::report(const PrintOutcome& outcome) {

@@ -36,6 +36,7 @@ Q_SIGNALS:
 
 private:
     PrintOutcome print(const PrintRequest& request);
+    QString amountTrouble(const PrintRequest& request) const;
     void report(const PrintOutcome& outcome);
 
     Desk desk_;

@@ -2,10 +2,12 @@
 
 #include "printing/amount_in_words.h"
 #include "printing/cash_on_delivery.h"
+#include "printing/document_receipt.h"
 #include "printing/envelope.h"
 #include "printing/label_sheet.h"
 #include "printing/pen.h"
 #include "printing/pink_check.h"
+#include "printing/posting_receipt.h"
 #include "printing/return_receipt.h"
 #include "printing/yellow_check.h"
 #include "prompts/titles.h"
@@ -29,7 +31,7 @@ struct Route {
 
 using enum Press;
 using enum Feed;
-constexpr Routine notBuilt = nullptr; // the form can't be printed yet
+constexpr Routine noRoutine = nullptr;
 
 // Labels have one feed and no batch: their one button prints all that is ticked.
 constexpr Route routes[] = {
@@ -41,19 +43,19 @@ constexpr Route routes[] = {
     {Tab::returnReceipt, single, sideways, PrintFekvoTerti},
     {Tab::returnReceipt, batch, upright, PrintCsAlloTerti},
     {Tab::returnReceipt, batch, sideways, PrintCsFekvoTerti},
-    {Tab::postingReceipt, single, upright, notBuilt},
-    {Tab::postingReceipt, single, sideways, notBuilt},
-    {Tab::postingReceipt, batch, upright, notBuilt},
-    {Tab::postingReceipt, batch, sideways, notBuilt},
+    {Tab::postingReceipt, single, upright, PrintAlloFelado},
+    {Tab::postingReceipt, single, sideways, PrintFekvoFelado},
+    {Tab::postingReceipt, batch, upright, PrintCsAlloFelado},
+    {Tab::postingReceipt, batch, sideways, PrintCsFekvoFelado},
     {Tab::envelope, single, upright, PrintAlloBoritek},
     {Tab::envelope, single, sideways, PrintFekvoBoritek},
     {Tab::envelope, batch, upright, PrintCsAlloBoritek},
     {Tab::envelope, batch, sideways, PrintCsFekvoBoritek},
     {Tab::label, single, upright, PrintAlloCimke},
-    {Tab::documentReceipt, single, upright, notBuilt},
-    {Tab::documentReceipt, single, sideways, notBuilt},
-    {Tab::documentReceipt, batch, upright, notBuilt},
-    {Tab::documentReceipt, batch, sideways, notBuilt},
+    {Tab::documentReceipt, single, upright, PrintAlloIrat},
+    {Tab::documentReceipt, single, sideways, PrintFekvoIrat},
+    {Tab::documentReceipt, batch, upright, PrintCsAlloIrat},
+    {Tab::documentReceipt, batch, sideways, PrintCsFekvoIrat},
     {Tab::pinkCheck, single, upright, PrintAlloRCsekk},
     {Tab::pinkCheck, single, sideways, PrintFekvoRCsekk},
     {Tab::pinkCheck, batch, upright, PrintCsAlloRcsekk},
@@ -69,7 +71,7 @@ Routine routineFor(const PrintRequest& request) {
     const auto route = std::find_if(std::begin(routes), std::end(routes), [&](const Route& r) {
         return r.tab == request.tab && r.press == request.press && r.feed == request.feed;
     });
-    return route == std::end(routes) ? notBuilt : route->print;
+    return route == std::end(routes) ? noRoutine : route->print;
 }
 
 bool confirms(Prompts& prompts, const QString& text) {
@@ -165,7 +167,7 @@ PrintOutcome nothing(const QString& why) { return {0, {}, why}; }
 PrintOutcome dispatchPrint(const PrintDesk& desk, const FormTabs& tabs, const PrintRequest& request,
                            const ListRows& rows, const QString& shownName) {
     const Routine print = routineFor(request);
-    if (print == notBuilt) return nothing(u"Ez a nyomtatvány így nem nyomtatható."_s);
+    if (print == noRoutine) return nothing(u"Ez a nyomtatvány így nem nyomtatható."_s);
     if (request.tab == Tab::yellowCheck && request.press == single && amountOf(tabs.yellowCheck.txOsszeg) == 0)
         return nothing(u"Az összeg üres vagy nulla."_s);
     const bool meant = request.press == single ? isSingleMeant(desk, tabs.yellowCheck, shownName)

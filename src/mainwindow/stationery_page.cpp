@@ -6,17 +6,18 @@
 #include <algorithm>
 #include <cmath>
 
+namespace {
+
+constexpr double naturalPixelsPerMm = 3.86;
+constexpr double leastScale = 0.6;
+
+} // namespace
+
 StationeryPage::StationeryPage(const ProgramFolder& folder, QSizeF sizeMm, QWidget* parent)
     : QWidget(parent)
     , folder_(folder)
     , sizeMm_(sizeMm) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    // The paper is light whatever the desktop's colours, and its rows leave no room for a style's frames.
-    setStyleSheet(QStringLiteral("QLineEdit { color: black; background: rgba(255, 255, 255, 200); border: 0px;"
-                                 " border-bottom: 1px solid rgba(0, 0, 0, 60); padding: 0px; }"
-                                 "QLineEdit:hover { border-color: rgba(0, 0, 0, 140); }"
-                                 "QLineEdit:focus { background: white; border-bottom: 1px solid #1f6fb5; }"
-                                 "QLabel { color: black; } QCheckBox, QRadioButton { color: black; }"));
 }
 
 void StationeryPage::setPicture(const QString& fileName, QSizeF sizeMm) {
@@ -30,20 +31,22 @@ void StationeryPage::setPicture(const QString& fileName, QSizeF sizeMm) {
 }
 
 void StationeryPage::place(QWidget* child, QRectF mm, double letterMm) {
-    child->setParent(this);
     const auto known =
         std::find_if(placed_.begin(), placed_.end(), [child](const Placed& p) { return p.child == child; });
     const Placed placed{child, mm, letterMm};
-    if (known == placed_.end())
+    if (known == placed_.end()) {
         placed_.push_back(placed);
-    else
+        child->setParent(this);
+        style_.dress(child);
+    } else {
         *known = placed;
+    }
     layOut(placed);
 }
 
-QSize StationeryPage::sizeHint() const { return (sizeMm_ * 3.86).toSize(); }
+QSize StationeryPage::sizeHint() const { return (sizeMm_ * naturalPixelsPerMm).toSize(); }
 
-QSize StationeryPage::minimumSizeHint() const { return (sizeMm_ * 2.4).toSize(); }
+QSize StationeryPage::minimumSizeHint() const { return (sizeMm_ * naturalPixelsPerMm * leastScale).toSize(); }
 
 double StationeryPage::pixelsPerMm() const {
     return std::max(0.1, std::min(width() / sizeMm_.width(), height() / sizeMm_.height()));
@@ -57,9 +60,10 @@ QRect StationeryPage::formRect() const {
 void StationeryPage::layOut(const Placed& placed) const {
     const double scale = pixelsPerMm();
     QFont font = placed.child->font();
-    // A line of text needs 1.2 times its size, or the accents of capitals are cut.
-    const double fitting = (placed.mm.height() * scale - 2) / 1.2;
-    font.setPixelSize(std::max(6, static_cast<int>(std::min(std::round(placed.letterMm * scale), fitting))));
+    // A line of text needs 1.17 times its size, or the accents of capitals are cut.
+    const double fitting = std::floor(placed.mm.height() * scale / 1.17);
+    const double readable = std::max(7.0, std::round(placed.letterMm * scale));
+    font.setPixelSize(static_cast<int>(std::max(6.0, std::min(readable, fitting))));
     placed.child->setFont(font);
     const QRectF onPage(placed.mm.topLeft() * scale, placed.mm.size() * scale);
     placed.child->setGeometry(onPage.translated(formRect().topLeft()).toRect());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "mainwindow/paper_style.h"
 #include "records/program_folder.h"
 
 #include <QPixmap>
@@ -8,8 +9,9 @@
 #include <vector>
 
 // The picture of a form with controls lying on it, all placed in millimetres of the real stationery, so that one table
-// of positions serves any window size and screen density. The form keeps its proportions. The picture is read when it
-// is shown; a missing one leaves a white page with a thin frame that names the file.
+// of positions serves any window size and screen density. The form keeps its proportions, and shrinks to 60 % of its
+// natural size. The picture is read when it is shown; a missing one leaves a white page with a thin frame that names
+// the file.
 class StationeryPage : public QWidget {
     Q_OBJECT
 public:
@@ -42,6 +44,7 @@ private:
     const QPixmap& scaledPicture(QSize size);
 
     const ProgramFolder& folder_;
+    PaperStyle style_;
     QSizeF sizeMm_;
     QString fileName_;
     QPixmap picture_;   // null if the file is missing

@@ -25,12 +25,8 @@ QByteArray bytesOf(const ProgramFolder& folder) {
     return RecordFile<Rec>(folder).readAll();
 }
 
-void openSheet(FormTabs& tabs, const FormContext& context) {
-    if (readRecord<CimkeSetup>(context.folder).txtOszlop != 0) return layOutSheet(tabs.label);
-    std::optional<Message> refusal;
-    updateRecord<CimkeSetup>(context.folder,
-                             [&](CimkeSetup& set) { refusal = cmdCimkeMeretRogzites_Click(tabs.label, set); });
-    if (refusal) context.prompts.tell(*refusal);
+void reloadLabels(FormTabs& tabs, const FormContext& context) {
+    openSheet(tabs.label, context.folder, context.prompts);
 }
 
 using T = FormTabs;
@@ -53,8 +49,8 @@ const std::array<TabRow, 8> tabRows = {{
      bytesOf<SetFveveny>},
     {u"Boríték címző", "Frame3", 3, false, "Boritekkepallo.jpg", "Boritekkepfekvo.jpg", nullptr,
      make<&T::envelope, EnvelopeView>, reloadFrom<&T::envelope, boritek, Envelope(reload)>, bytesOf<boritek>},
-    {u" Etikett nyomtató", "Frame8", 0, true, "cimkekep.jpg", nullptr, nullptr, make<&T::label, LabelView>, openSheet,
-     bytesOf<CimkeSetup>},
+    {u" Etikett nyomtató", "Frame8", 0, true, "cimkekep.jpg", nullptr, nullptr, make<&T::label, LabelView>,
+     reloadLabels, bytesOf<CimkeSetup>},
     {u"Térti Irathoz", "Picture5", 4, true, "Iratkepallo.jpg", "Iratkepfekvo.jpg", nullptr,
      make<&T::documentReceipt, DocumentReceiptView>, reloadFrom<&T::documentReceipt, SetTerti, Document(reload)>,
      bytesOf<SetTerti>},

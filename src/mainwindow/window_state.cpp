@@ -41,7 +41,9 @@ void restoreBold(EnvelopeTab& tab, const boritek& set) {
 void restoreLabelFonts(LabelTab& tab, const Betutip& fonts, const Betumeret& sizes) {
     for (std::size_t line = 0; line < 5; ++line) {
         tab.ComboBetuTipus1[line] = fonts.ComboBetuTipus1[line].trimmed();
-        tab.ComboBetuSize[line] = QString::number(sizes.ComboBetuSize[line]);
+        const int size = sizes.ComboBetuSize[line];
+        tab.ComboBetuSize[line] =
+            size == 0 ? QString() : QString::number(size); // never stored: the box says the default
     }
 }
 

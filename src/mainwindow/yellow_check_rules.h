@@ -8,18 +8,8 @@
 // What an edit of a control of the yellow check's tab does to the others. Each works on the tab's values, in which the
 // edited control already holds its new text or tick.
 
-// A new amount: its copy and its words, fitted to the form's word rows. An amount above 99.999.999 shows the limit.
+// A new amount: its words, fitted to the form's word rows. An amount above 99.999.999 shows the limit.
 void txOsszeg_Change(YellowCheckTab& tab, const Set& set, PrintDevice& device);
-
-// The copies of the two word lines.
-void txtSzoveg21_Change(YellowCheckTab& tab);
-void txtSzoveg11_Change(YellowCheckTab& tab);
-
-// The stub's copies of the payer.
-void txNev_Change(YellowCheckTab& tab);
-void txCim1_Change(YellowCheckTab& tab);
-void txCim2_Change(YellowCheckTab& tab);
-void txIrszam_Change(YellowCheckTab& tab);
 
 // Ticked, the second title line takes the payer's identifier; unticked, it is emptied.
 void chkBefAzonMasolasa_Click(YellowCheckTab& tab);

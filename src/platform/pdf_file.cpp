@@ -1,12 +1,12 @@
 #include "platform/pdf_file.h"
 
 #include "printing/print_service.h"
+#include "records/file_replacement.h"
 
 #include <QBuffer>
 #include <QDir>
 #include <QPdfWriter>
 #include <QRegularExpression>
-#include <QSaveFile>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -68,9 +68,7 @@ QString saveNewFile(const QByteArray& bytes, const QString& folder, const QStrin
     QString path = wanted.filePath();
     for (int number = 2; QFileInfo::exists(path); ++number)
         path = wanted.path() + u'/' + wanted.completeBaseName() + u"-%1."_s.arg(number) + wanted.suffix();
-    QSaveFile file(path);
-    const bool saved =
-        QDir().mkpath(folder) && file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
-    if (!saved) throw DeviceError(482, u"A PDF fájl nem írható, nincs hozzá jog vagy betelt a lemez:\n"_s + path);
+    if (!QDir().mkpath(folder) || !replaceFile(path, bytes))
+        throw DeviceError(482, u"A PDF fájl nem írható, nincs hozzá jog vagy betelt a lemez:\n"_s + path);
     return path;
 }

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <array>
-#include <limits>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -84,32 +83,6 @@ WordLines sevenDigitWords(std::int64_t amount) { return words(amount, 9999999, u
 
 QString star() { return u"*"_s; }
 
-// The whole part of a typed number, and how much of a forint lies behind the point.
-struct TypedNumber {
-    std::int64_t whole = 0;
-    bool negative = false;
-    int firstPlace = -1;     // first digit behind the point, -1 for none
-    bool morePlaces = false; // digits other than 0 behind the first place
-
-    void addDigit(int digit, bool behindPoint) {
-        constexpr std::int64_t limit = std::numeric_limits<std::int64_t>::max();
-        if (!behindPoint) {
-            whole = whole > (limit - digit) / 10 ? limit : whole * 10 + digit;
-        } else if (firstPlace < 0) {
-            firstPlace = digit;
-        } else {
-            morePlaces = morePlaces || digit != 0;
-        }
-    }
-
-    std::int64_t rounded() const {
-        const bool up = negative ? firstPlace > 5 || (firstPlace == 5 && morePlaces) : firstPlace >= 5;
-        const bool room = whole < std::numeric_limits<std::int64_t>::max();
-        const std::int64_t size = whole + (up && room ? 1 : 0);
-        return negative ? -size : size;
-    }
-};
-
 } // namespace
 
 WordLines azaz_rutin(QStringView amount) { return words(amountOf(amount), 99999999, u"99.999.999"_s); }
@@ -117,27 +90,6 @@ WordLines azaz_rutin(QStringView amount) { return words(amountOf(amount), 999999
 WordLines Razaz_rutin(QStringView amount) { return sevenDigitWords(amountOf(amount)); }
 
 WordLines azaz1(std::int32_t azazOsszeg) { return sevenDigitWords(azazOsszeg); }
-
-std::int64_t amountOf(QStringView typed) {
-    TypedNumber number;
-    bool started = false;
-    bool point = false;
-    for (const QChar c : typed) {
-        const char16_t unit = c.unicode();
-        if (c.category() == QChar::Separator_Space) continue;
-        if (unit >= u'0' && unit <= u'9') {
-            number.addDigit(unit - u'0', point);
-        } else if (unit == u'.' && !point) {
-            point = true;
-        } else if ((unit == u'-' || unit == u'+') && !started) {
-            number.negative = unit == u'-';
-        } else {
-            break;
-        }
-        started = true;
-    }
-    return number.rounded();
-}
 
 float measuredWidth(PrintDevice& device, const QString& fontName, int size, const QString& text) {
     return Pen(device).TextWidth(fontName, size, text);

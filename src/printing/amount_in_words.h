@@ -1,6 +1,7 @@
 #pragma once
 
 #include "printing/print_device.h"
+#include "records/number_text.h"
 
 #include <QString>
 
@@ -20,11 +21,6 @@ WordLines azaz_rutin(QStringView amount);
 WordLines Razaz_rutin(QStringView amount);
 // Everything else, from an amount in memory, up to 7 digits. A negative amount gives empty lines.
 WordLines azaz1(std::int32_t azazOsszeg);
-
-// Whole forints that a typed text reads as: blanks (also no-break and thin ones) are skipped anywhere, then sign,
-// digits and one point; the reading stops at the first other character. Rounded half up; 0 without a number. What is
-// larger than the type is its largest value.
-std::int64_t amountOf(QStringView typed);
 
 // Width of the rows of words on both checks, on the tab and in a batch.
 constexpr float wordRowLimitMm = 45;

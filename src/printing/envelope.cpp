@@ -2,6 +2,7 @@
 
 #include "printing/form_routine.h"
 #include "printing/form_text.h"
+#include "records/number_text.h"
 #include "settings/envelope_label_settings.h"
 
 using namespace Qt::Literals::StringLiterals;

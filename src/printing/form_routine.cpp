@@ -38,10 +38,18 @@ void announce(Pen& pen, const PrintDesk& desk, const FormRoutine& routine, const
     askForManyPages(pen, desk, static_cast<int>(numbers.size()));
 }
 
+void checkNumbers(Pen& pen, const std::vector<int>& numbers) {
+    if (numbers.empty()) pen.Note(u"Nincs kijelölt ügyfél."_s);
+    if (!std::all_of(numbers.begin(), numbers.end(), isClientNumber)) pen.Fail(6, u"Túlcsordulás"_s);
+}
+
+// The numbers are known by now, so the rows may go. They go even if the device should fail from here on.
+void takeClientsOut(const Pen& pen, const PrintDesk& desk, const Set& set) {
+    if (!pen.stopped() && set.chkPrintDel > 0 && desk.takeSelectedOut) desk.takeSelectedOut();
+}
+
 void printPages(Pen& pen, const ProgramFolder& folder, bool readsTwin, const std::vector<int>& numbers,
                 const std::function<void(const Client&)>& printPage) {
-    if (numbers.empty()) return pen.Note(u"Nincs kijelölt ügyfél."_s);
-    if (!std::all_of(numbers.begin(), numbers.end(), isClientNumber)) pen.Fail(6, u"Túlcsordulás"_s);
     std::optional<RecordFile<TwinRec>> twins;
     if (readsTwin) twins.emplace(folder);
     RecordFile<ClientRec> clients(folder);
@@ -89,6 +97,8 @@ PrintOutcome printEach(const PrintDesk& desk, const FormRoutine& routine, const 
     const bool takesAll = routine.allRowsWhenAutomatic && set.chkAutoPrint != 0;
     const std::vector<int>& numbers = takesAll ? rows.all : rows.selected;
     announce(pen, desk, routine, numbers);
+    checkNumbers(pen, numbers);
+    if (routine.takesClientsOut) takeClientsOut(pen, desk, set);
     if (!routine.opensPerClient) pen.OpenForm(routine.page);
     printPages(pen, desk.folder, routine.readsTwin, numbers, [&](const Client& client) {
         if (routine.opensPerClient) pen.OpenForm(routine.page);

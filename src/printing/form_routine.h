@@ -23,6 +23,7 @@ struct FormRoutine {
     bool opensPerClient = false;       // sets the page up for each client anew, not once for the job
     bool allRowsWhenAutomatic = false; // takes all rows of the list while automatic printing is switched on
     bool readsTwin = true;             // else the client's twin record is zero, and its file stays closed
+    bool takesClientsOut = false;      // its clients leave the list while the settings say so (chkPrintDel)
 };
 
 using PrintForm = std::function<void(Pen&, const Set&)>;

@@ -9,27 +9,24 @@
 
 #include <array>
 
-// What each tab of the window shows, as plain values under the names of its controls. The rules of the tabs work on
-// them, views show them, and the print routines take them: none of the three needs the others.
+// What each tab of the window shows, as plain values under the names of its controls; a control that only shows another
+// one's text has no value of its own. The rules of the tabs work on them, views show them, and the print routines take
+// them: none of the three needs the others.
 
 enum class Side { front, back };
 
 struct YellowCheckTab {
-    QString txOsszeg;    // amount as typed
-    QStringList amounts; // the list of txOsszeg: the client's usable amounts in slot order
-    QString lbOsszeg;    // copy on the other part
-    QString txtSzoveg21; // words, upper line
-    QString txtSzoveg11; // words, lower line
-    QString txtSzoveg22; // their copies
-    QString txtSzoveg12;
+    QString txOsszeg;                        // amount as typed
+    QStringList amounts;                     // the list of txOsszeg: the client's usable amounts in slot order
+    QString txtSzoveg21;                     // words, upper line
+    QString txtSzoveg11;                     // words, lower line
     QString txNev, txCim1, txCim2, txIrszam; // payer: name, settlement, street, postcode
-    std::array<QString, 4> Text1;            // the stub's copies: (1) name, (0) settlement, (2) street, (3) postcode
     QString txNev_2;
     QString txBefizAzonosito;
     bool chkBefAzonMasolasa = false;
     QString txtJogcim1, txtJogcim2;
     QString Kozlemeny1, Kozlemeny2;
-    std::array<QString, 2> txtKozl3sor; // third notice line, on the two parts
+    std::array<QString, 1> txtKozl3sor; // third notice line; (1), on the stub, shows it once more
     QString txtFizHatIdo;
     // What the last click wrote into Kozlemeny2 as the deadline, empty if nothing: a batch puts each client's own
     // deadline in its place (none if deadlines are off), but prints a text that the clerk typed on all pages.
@@ -105,12 +102,10 @@ struct PinkCheckTab {
     Side side = Side::front;
     QString RtxOsszeg;
     QStringList amounts;
-    QString RlbOsszeg, lbOsszeg2;
-    QString RtxtSzoveg21, RtxtSzoveg11;        // words, upper and lower line
-    QString RtxtSzoveg12, RtxtSzoveg22;        // their copies, upper and lower: for the screen only
-    QString RtxNev, RtxCim;                    // sender
-    QString RlbNev, RlbCim, RlbHelys, RlbIrsz; // addressee, on the two halves
-    QString txtNev, txtCim, txtHelys, txtIrsz;
+    QString RtxtSzoveg21, RtxtSzoveg11;                            // words, upper and lower line
+    QString RtxtSzoveg12, RtxtSzoveg22;                            // their copies, upper and lower: for the screen only
+    QString RtxNev, RtxCim;                                        // sender
+    QString RlbNev, RlbCim, RlbHelys, RlbIrsz;                     // addressee
     QString txtNevHatul, txtHelysHatul, txtCimHatul, txtIrszHatul; // sender on the back
     std::array<QString, 4> RcsekkKozlemenyHatul;                   // notice on the back
     // Caption of cmdOldalCsere: names the side that the button turns to.
@@ -122,7 +117,7 @@ struct CashOnDeliveryTab {
     Side side = Side::front;
     QString txUNev, txUCim;
     QString lbUNev, lbUCim, lbUHelyseg, lbUIrszam;
-    QString txUosszeg, lbUosszeg, lbosszegBetuvel1, lbosszegBetuvel2;
+    QString txUosszeg, lbosszegBetuvel1, lbosszegBetuvel2;
     bool chkUtanvetEL = false, chkUtanvetR = false;
     QString lbUNevHatul, lbUHelysegHatul, lbUCimHatul, lbUIrszamHatul;
     QString cmdUtanvetOdalCsere() const;

@@ -43,6 +43,8 @@ public:
         item.fontSize_ = size;
         return item;
     }
+    // Another size of the font in force.
+    static constexpr Item size(FontSize<Rec> size) { return Item(Step::size).with(&Item::fontSize_, size); }
     static constexpr Item hold(TextOf text, At x, Offset dx) { return {Step::hold, text, x, dx}; }
     static constexpr Item hold(TextOf text, At x, Offset dx, At y, Offset dy) {
         return hold(text, x, dx).onLine(y, dy);
@@ -82,6 +84,8 @@ public:
         switch (step_) {
         case Step::font:
             return pen.SetFont((rec.*fontName_).stored(), fontSize_.in(rec), weight_);
+        case Step::size:
+            return pen.SetFontSize(fontSize_.in(rec));
         case Step::hold:
             return pen.PlaceHold(x, {}, textOn(page));
         case Step::line:
@@ -94,7 +98,7 @@ public:
     }
 
 private:
-    enum class Step { font, hold, line, move, skip };
+    enum class Step { font, size, hold, line, move, skip };
 
     constexpr explicit Item(Step step) : step_(step) {}
     constexpr Item(Step step, TextOf text, At x, Offset dx) : step_(step), text_(text), x_(x), dx_(dx) {}

@@ -2,6 +2,7 @@
 
 #include "printing/form_routine.h"
 #include "printing/position.h"
+#include "records/number_text.h"
 #include "settings/envelope_label_settings.h"
 
 #include <algorithm>

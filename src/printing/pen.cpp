@@ -62,8 +62,13 @@ void Pen::OpenForm(const PageRequest& request) {
 void Pen::SetFont(const QString& name, int size, std::optional<Weight> weight) {
     wanted_ = {trimBlanks(name).toString(), static_cast<float>(size)};
     attempt([&] { device_.setFontName(wanted_.name); });
-    attempt([&] { device_.setFontSize(wanted_.size); });
+    SetFontSize(size);
     if (weight) attempt([&] { device_.setFontBold(*weight == Weight::bold); });
+}
+
+void Pen::SetFontSize(int size) {
+    wanted_.size = static_cast<float>(size);
+    attempt([&] { device_.setFontSize(wanted_.size); });
 }
 
 void Pen::PlaceText(float x, float y, const QString& text) {

@@ -56,6 +56,8 @@ public:
 
     // `name` may be padded, as in a record.
     void SetFont(const QString& name, int size, std::optional<Weight> weight = {});
+    // Points; the name stays.
+    void SetFontSize(int size);
     // Text with a line end.
     void PlaceText(float x, float y, const QString& text);
     // The same on the line where the pen stands.

@@ -32,6 +32,10 @@ struct PrintDesk {
     // A clerk pressed a button: dialogs and questions come up. Automatic printing goes without them.
     bool attended = true;
     PageProgress progress = {};
+    // Takes the selected rows out of the list on the screen. Batches whose routine does so
+    // (FormRoutine::takesClientsOut) ask for it while the settings have chkPrintDel on: once, when they know their
+    // clients and before the first page prints. Nothing is taken out where nobody hands it in.
+    std::function<void()> takeSelectedOut = {};
 };
 
 // The rows of the client list as record numbers, in the order on the screen.

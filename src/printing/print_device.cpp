@@ -84,10 +84,14 @@ void PrintDevice::setSizeTwips(float width, float height) {
     }
 }
 
+bool PrintDevice::knowsFont(const QString& name) const {
+    const QString wanted = withoutTrailingBlanks(name);
+    return !wanted.isEmpty() && service_.knowsFont(wanted);
+}
+
 void PrintDevice::setFontName(const QString& name) {
-    const QString known = withoutTrailingBlanks(name);
-    if (known.isEmpty() || !service_.knowsFont(known)) throw refusedValue();
-    font_.name = known;
+    if (!knowsFont(name)) throw refusedValue();
+    font_.name = withoutTrailingBlanks(name);
 }
 
 void PrintDevice::setFontSize(float points) {

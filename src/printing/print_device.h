@@ -43,6 +43,8 @@ public:
     void setSizeMm(float width, float height);    // the form's own size, with orientation 1
     void setSizeTwips(float width, float height); // the same in 1/1440 inch; within 1 mm of A4 it is plain A4
 
+    // Whether setFontName takes the name.
+    bool knowsFont(const QString& name) const;
     // Trailing blanks of a name are ignored. DeviceError 380 for an empty or unknown name; the font stays as it was.
     void setFontName(const QString& name);
     void setFontSize(float points); // DeviceError 380 below 1

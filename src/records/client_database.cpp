@@ -1,10 +1,8 @@
 #include "records/client_database.h"
 
-#include <QDir>
-#include <QFileInfo>
+#include "records/file_replacement.h"
 
-#include <filesystem>
-#include <system_error>
+#include <QFileInfo>
 
 // How the pair is replaced as one step. The new files are written whole and flushed under names of their own; then the
 // marker, which holds their sizes, is written: the point of no return. Then
@@ -36,22 +34,12 @@ struct PairPaths {
     QString marker;
 };
 
-// Replaces `to` in one step where it exists; QFile::rename would refuse.
-bool moveOnto(const QString& from, const QString& to) {
-    std::error_code error;
-    std::filesystem::rename(QFileInfo(from).filesystemFilePath(), QFileInfo(to).filesystemFilePath(), error);
-    return !error;
-}
-
 bool isGone(const QString& path) { return QFile::remove(path) || !QFile::exists(path); }
 
 bool writeMarker(const PairPaths& paths) {
-    QSaveFile marker(paths.marker);
-    if (!marker.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) return false;
     const qint64 clientBytes = QFileInfo(paths.nextClients).size();
     const qint64 twinBytes = QFileInfo(paths.nextTwins).size();
-    marker.write(QByteArray::number(clientBytes) + ' ' + QByteArray::number(twinBytes) + '\n');
-    return marker.commit();
+    return replaceFile(paths.marker, QByteArray::number(clientBytes) + ' ' + QByteArray::number(twinBytes) + '\n');
 }
 
 // A new file waits in full length, or is in its place already.
@@ -89,13 +77,8 @@ void removeLeftovers(const PairPaths& paths) {
     QFile::remove(paths.nextClients);
     QFile::remove(paths.nextTwins);
     QFile::remove(paths.previousClients);
-    // What a QSaveFile was writing when its process died.
-    QDir folder = QFileInfo(paths.marker).dir();
-    for (const QString& file : {paths.nextClients, paths.nextTwins, paths.marker}) {
-        const QString pattern = QFileInfo(file).fileName() + QStringLiteral(".??????");
-        for (const QString& unfinished : folder.entryList({pattern}, QDir::Files))
-            folder.remove(unfinished);
-    }
+    for (const QString& file : {paths.nextClients, paths.nextTwins, paths.marker})
+        removeUnfinished(file);
 }
 
 // Puts the new pair in place, or leaves the old one. If the old clients can't be put back now either, all stays as it
@@ -141,8 +124,7 @@ ClientReplacement::ClientReplacement(const ProgramFolder& folder)
     : folder_(folder)
     , clients_(PairPaths(folder).nextClients)
     , twins_(PairPaths(folder).nextTwins) {
-    // Unbuffered: QSaveFile looks at the errors of its own writes only, not at those of a buffer flushed behind it.
-    constexpr auto mode = QIODevice::WriteOnly | QIODevice::Unbuffered;
+    constexpr auto mode = QIODevice::WriteOnly | QIODevice::Unbuffered; // as in replaceFile
     whole_ = settle(PairPaths(folder)) && clients_.open(mode) && twins_.open(mode);
 }
 

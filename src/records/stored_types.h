@@ -26,6 +26,7 @@ public:
         return cur;
     }
     // The leading number of a typed text ("12.5 mm" is 12.5, "abc" is 0), rounded to four places. The sign is a point.
+    // Defined with its kind, in number_text.cpp.
     static Cur fromText(QStringView text);
 
     // Plain decimal, a point for the sign, no trailing zeros, no exponent, no grouping.
@@ -82,10 +83,6 @@ private:
 // Blanks only: tabs and no-break spaces are part of a text.
 QStringView trimBlanks(QStringView text);
 
-// Leading number of a typed text: leading blanks are passed over, then sign, digits and one point; else 0.
-double leadingNumber(QStringView text);
-// The same, rounded to a whole number and kept within the range of the field instead of wrapping.
-std::int16_t leadingI16(QStringView text);
 // Shortest plain decimal text that reads back as the same single-precision number.
 QString plainText(float value);
 

@@ -99,10 +99,11 @@ TEST(CsvImport, AmountsAreWholeForintsOrZeroAndCounted) {
     const std::pair<int, std::vector<QByteArray>> rows[] = {
         {0, {"", "  ", "0"}},
         {700, {"\"700\"", "0000700"}},
-        {12500, {" 12500 ", "12 500", "12\240500\240Ft", "12500Ft"}},
-        {1000000, {"1 000 000 ft."}},
-        {2147483647, {"2147483647"}},
-        {-1, {"2147483648", "-1", "12,5", "12.50", "Ft", "ezer", "12Ft5", QByteArray(40, '1')}}, // bad
+        {12500,
+         {" 12500 ", "12 500", "12\240500\240Ft", "12500Ft", "12.500", "12,500,-", "12" + QByteArray(99, ' ') + "500"}},
+        {1000000, {"1 000 000 ft.", "1.000.000,- Ft"}},
+        {2147483647, {"2147483647", "2.147.483.647"}},
+        {-1, {"2147483648", "-1", "12,5", "12.50", "1.234,50", "Ft", "ezer", "12Ft5", QByteArray(41, '0')}}, // bad
     };
     for (const auto& [forints, texts] : rows) {
         for (const QByteArray& typed : texts) {
@@ -118,6 +119,30 @@ TEST(CsvImport, AmountsAreWholeForintsOrZeroAndCounted) {
             EXPECT_EQ(RecordFile<TwinRec>(folder).read(2).Kozl3Sor.trimmed(), u"sor"_s);
         }
     }
+}
+
+TEST(CsvImport, TellsWhichLinesHoldWhatCouldNotBeStored) {
+    const TestFolder folder;
+    const QByteArray fits(36, 'n');
+    const QByteArray bytes = fits + "   \r\n\n" + "Kov\341cs \311va;;;;;; nagyon  sok \n" + "  " + fits + "\r" + //
+                             ";   " + fits + ";;;123\"4567;" + QByteArray(50, 'c') + ";" + QByteArray(60, '1');
+    const ImportOutcome outcome = importBytes(folder, bytes);
+    EXPECT_EQ(outcome.badAmounts, 2);
+    EXPECT_EQ(outcome.cutTexts, 3);
+    EXPECT_EQ(faultLines(outcome).join(u'\n').toStdString(),
+              "3. sor, Kovács Éva: az összeg nem értelmezhető: ''nagyon sok''\n"
+              "4. sor, " +
+                  std::string(34, 'n') +
+                  ": a Név levágva 36 betűre\n"
+                  "5. sor: az Irányítószám levágva 6 betűre\n"
+                  "5. sor: a Cím levágva 45 betűre\n"
+                  "5. sor: az összeg nem értelmezhető: ''" +
+                  std::string(40, '1') + "''");
+
+    const ImportOutcome many = importBytes(folder, QByteArray("x;;;;;;?\n").repeated(12));
+    EXPECT_EQ(faultLines(many).size(), 11);
+    EXPECT_EQ(faultLines(many).last(), u"és további 2 helyen"_s);
+    EXPECT_TRUE(faultLines(importBytes(folder, "x\n")).isEmpty());
 }
 
 TEST(CsvImport, AppendGoesOnFromTheClientCountAndOverwriteStartsAtOne) {

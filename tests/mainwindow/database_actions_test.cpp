@@ -102,6 +102,7 @@ TEST_F(DatabaseWindow, ImportAppendsOrOverwritesAsTheTitleSays) {
     EXPECT_EQ(rows(), "Ács Dóra|Bodó Pál|Csík Rita");
     EXPECT_EQ(prompts.fileTitles.back(), QStringLiteral("Importálás - a meglévő adatbázis FELÜLÍRÁSÁVAL"));
     expectNobodyHeld();
+    EXPECT_EQ(prompts.told.front().details, QStringLiteral("3. sor, Csík Rita: az összeg nem értelmezhető: ''sok''"));
     EXPECT_EQ(told(), "Adatbázis importálása|A beolvasott adatokból 1 rekord összege nem értelmezhető, ezek összege 0 "
                       "lett.\nEllenőrízd a ''csv'' fájl helyességét.#" +
                           finished);

@@ -16,6 +16,9 @@ protected:
         tabs.returnReceipt.txNev2 = tabs.cashOnDelivery.txUNev = QStringLiteral("Kiss Anna");
         tabs.envelope.txtBoritekCimzettNev = QStringLiteral("Kiss Anna");
         files.store(SetTerti::factory());
+        tabs.postingReceipt.txNev3 = tabs.documentReceipt.txtIratCimzettNev = tabs.yellowCheck.txNev;
+        files.store(SetFveveny::factory());
+        files.store(SetIrat2::factory());
         files.store(boritek::firstRun());
     }
     PrintOutcome print(Tab tab, Feed feed, Press press) {
@@ -54,6 +57,14 @@ TEST_F(PrintDispatch, TabFeedAndButtonFindTheRoutine) {
                   {Tab::yellowCheck, Press::single, Feed::sideways, "sarga-csekk own 1", 0},
                   {Tab::yellowCheck, Press::batch, Feed::upright, "sarga-csekk DL 2", 1},
                   {Tab::yellowCheck, Press::batch, Feed::sideways, "sarga-csekk own 2", 0},
+                  {Tab::postingReceipt, Press::single, Feed::upright, "feladoveveny DL 1", 0},
+                  {Tab::postingReceipt, Press::single, Feed::sideways, "feladoveveny own 1", 0},
+                  {Tab::postingReceipt, Press::batch, Feed::upright, "feladoveveny DL 2", 0},
+                  {Tab::postingReceipt, Press::batch, Feed::sideways, "feladoveveny own 2", 0},
+                  {Tab::documentReceipt, Press::single, Feed::upright, "irat-tertiveveny DL 1", 0},
+                  {Tab::documentReceipt, Press::single, Feed::sideways, "irat-tertiveveny own 1", 0},
+                  {Tab::documentReceipt, Press::batch, Feed::upright, "irat-tertiveveny DL 2", 0},
+                  {Tab::documentReceipt, Press::batch, Feed::sideways, "irat-tertiveveny own 2", 0},
                   {Tab::pinkCheck, Press::single, Feed::upright, "rozsaszin-csekk DL 1", 0},
                   {Tab::pinkCheck, Press::single, Feed::sideways, "rozsaszin-csekk A4 1", 0},
                   {Tab::pinkCheck, Press::batch, Feed::upright, "rozsaszin-csekk DL 2", 1},

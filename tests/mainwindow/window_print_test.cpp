@@ -1,4 +1,5 @@
 #include "mainwindow/status_line.h"
+#include "settings/receipt_layouts.h"
 #include "window_fixture.h"
 
 #include <QPushButton>
@@ -55,6 +56,29 @@ TEST_F(WindowPrint, PrintDialogHoldsTheButtonsAndSparesTheNotice) {
     EXPECT_EQ(service.delivered.size(), 1U);
     EXPECT_TRUE(enabled("cmdCsPrint"));
     EXPECT_EQ(text("Kozlemeny1") + text("txtJogcim1"), "köszönjüktagdíj");
+}
+
+TEST_F(WindowPrint, PrintedClientsLeaveTheListIfTheSettingsSaySo) {
+    files.store(SetFveveny::factory());
+    Set stored = set();
+    stored.chkPrintDel = 1;
+    files.store(stored);
+    for (const auto& [tab, left] : {std::pair(0, "[Kiss Anna]|[Nagy Béla]"), std::pair(2, "")}) {
+        goTo(tab);
+        clickRow(0);
+        clickRow(1, Qt::ControlModifier);
+        if (tab == 0) prompts.printerChoices = {PrinterChoice{1, 1}};
+        press("cmdCsPrint");
+        EXPECT_EQ(service.delivered.back().job.pages.size(), 2U);
+        EXPECT_EQ(rows(), left);
+    }
+    EXPECT_TRUE(printed(0, "Kiss Anna") && printed(1, "Nagy Béla"));
+    EXPECT_EQ(status(), "2 oldal kinyomtatva: Elso. 2 sor levéve a listáról. ");
+    EXPECT_EQ(text("lbKijelolve"), "");
+    press("cmdCsPrint"); // nobody is selected any more
+    EXPECT_EQ(status(), "Nem készült nyomat. Nincs kijelölt ügyfél.");
+    press("cmdBeolvas");
+    EXPECT_EQ(rows(), "Kiss Anna|Nagy Béla");
 }
 
 TEST_F(WindowPrint, OnePressIsOneJob) {
@@ -122,6 +146,12 @@ TEST_F(WindowPrint, StatusLineOpensThePdfAndForgetsItForTheNextClient) {
     EXPECT_EQ(opened, QStringList(lastPdf));
     clickRow(1);
     EXPECT_EQ(status(), "");
+    for (const char* amount : {"12.50", "1500x", "12.500"}) {
+        type("txOsszeg", QString::fromLatin1(amount));
+        press("cmdPrint");
+        const bool agrees = status().ends_with(". ");
+        EXPECT_EQ(agrees, std::string(amount) == "12.500") << status();
+    }
     type("txOsszeg", QStringLiteral("0"));
     press("cmdPrint");
     EXPECT_EQ(status(), "Nem készült nyomat. Az összeg üres vagy nulla.");

@@ -32,18 +32,6 @@ TEST(Text, PadsCutsAndEndsAtTheFirstNul) {
     EXPECT_EQ(field.stored(), u"abc"_s);
 }
 
-TEST(TypedNumbers, ReadByTheirHead) {
-    // What is typed, then as a Cur and as a 16 bit number.
-    const QStringList rows = u"12.5|12.5|13;  -3|-3|-3;12,5|12|12;abc|0|0;|0|0;-|0|0;12.34565x|12.3457|12;+7 mm|7|7;"
-                             ".25|0.25|0;99999|99999|32767;-99999|-99999|-32768;1e3|1|1;"
-                             "99999999999999999999|922337203685477.5807|32767"_s.split(u';');
-    for (const QString& row : rows) {
-        const QString typed = row.section(u'|', 0, 0);
-        EXPECT_EQ(Cur::fromText(typed).text(), row.section(u'|', 1, 1)) << row.toStdString();
-        EXPECT_EQ(leadingI16(typed), row.section(u'|', 2).toInt()) << row.toStdString();
-    }
-}
-
 TEST(StoredNumbers, KeepTheirBytesAndBecomeTheNearestFloatAndTheShortestText) {
     EXPECT_EQ(Cur::fromText(u"12.3456").plusWhole(10).toFloat(), 22.3456F);
     EXPECT_EQ(Cur::fromText(u"-0.0001").text(), u"-0.0001"_s);

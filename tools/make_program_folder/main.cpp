@@ -1,5 +1,6 @@
-#include "exchange/postcode_tables.h"
 #include "make_program_folder/pictures.h"
+#include "make_program_folder/postcode_tables.h"
+#include "records/file_replacement.h"
 #include "records/record_file.h"
 #include "settings/check_layouts.h"
 #include "settings/envelope_label_settings.h"
@@ -9,7 +10,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QGuiApplication>
-#include <QSaveFile>
 
 #include <cstdio>
 #include <functional>
@@ -60,9 +60,7 @@ public:
         if (isUpToDate(path, sourcePath)) return;
         const QByteArray bytes = make(sourcePath);
         if (bytes.isEmpty()) return fail(sourcePath, "is missing or can't be used");
-        QSaveFile out(path);
-        const bool written = out.open(QIODevice::WriteOnly) && out.write(bytes) == bytes.size() && out.flush();
-        if (!written || !out.commit()) fail(path, "can't be written");
+        if (!replaceFile(path, bytes)) fail(path, "can't be written");
     }
 
     // Every file of a folder, under its own name with another ending.

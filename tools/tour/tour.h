@@ -42,7 +42,9 @@ private:
 
     void importClients();
     void walkTabs();
-    void printSingles();
+    void typeTexts();
+    void printForms(const char* button, const QString& what, int pages);
+    void selectBatch(int clients);
     void printBatches();
     void openSetup(int tab);
     void closeAndReopen();

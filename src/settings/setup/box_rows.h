@@ -1,6 +1,6 @@
 #pragma once
 
-#include "records/stored_types.h"
+#include "records/number_text.h"
 
 #include <algorithm>
 #include <limits>

@@ -1,4 +1,4 @@
-#include "exchange/postcode_tables.h"
+#include "make_program_folder/postcode_tables.h"
 
 #include "records/record_file.h"
 #include "records/reference_records.h"

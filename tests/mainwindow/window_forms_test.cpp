@@ -1,0 +1,187 @@
+#include "mainwindow/stationery_page.h"
+#include "settings/envelope_label_settings.h"
+#include "window_fixture.h"
+
+#include <QAbstractItemView>
+#include <QFile>
+#include <QRegularExpression>
+
+namespace {
+
+class WindowForms : public WindowTest {
+protected:
+    void SetUp() override { openWith({clientNamed(QStringLiteral("Kiss Anna"), 1500)}); }
+    // Of a mm on the picture of a form.
+    static double pixelsPerMm(const StationeryPage& page) {
+        constexpr double naturalPixels = 3.86;
+        const QSize natural = page.sizeHint();
+        return naturalPixels *
+               std::min(double(page.width()) / natural.width(), double(page.height()) / natural.height());
+    }
+    // Where the control ends on the picture, mm.
+    double bottomMm(const StationeryPage& page, double heightMm, const char* name) const {
+        const double scale = pixelsPerMm(page);
+        const QWidget& box = find(name);
+        const double top = (page.height() - heightMm * scale) / 2;
+        return (box.mapTo(&page, QPoint(0, box.height())).y() - top) / scale;
+    }
+};
+
+TEST_F(WindowForms, MirrorsShowWhatPrintsAndTakeNoTyping) {
+    const struct {
+        int tab;
+        const char *typed, *mirror;
+    } mirrors[] = {
+        {0, "txtSzoveg21", "txtSzoveg22"},
+        {0, "txtSzoveg11", "txtSzoveg12"},
+        {0, "txtKozl3sor_0", "txtKozl3sor_1"},
+        {0, "txNev", "Text1_1"},
+        {0, "txCim1", "Text1_0"},
+        {0, "txCim2", "Text1_2"},
+        {0, "txIrszam", "Text1_3"},
+        {6, "RtxtSzoveg21", "RtxtSzoveg12"},
+        {6, "RtxtSzoveg11", "RtxtSzoveg22"},
+        {6, "RlbNev", "txtNev"},
+        {6, "RlbHelys", "txtHelys"},
+        {6, "RlbCim", "txtCim"},
+        {6, "RlbIrsz", "txtIrsz"},
+    };
+    for (const auto& row : mirrors) {
+        SCOPED_TRACE(row.mirror);
+        goTo(row.tab);
+        type(row.typed, QStringLiteral("átírva"));
+        EXPECT_EQ(text(row.mirror), "átírva");
+        type(row.mirror, QStringLiteral("semmi"));
+        EXPECT_EQ(text(row.mirror), "átírva");
+        EXPECT_FALSE(find(row.mirror).focusPolicy() & Qt::TabFocus);
+    }
+}
+
+TEST_F(WindowForms, AnAmountThatItsWordsCantAgreeWithIsShown) {
+    const struct {
+        int tab;
+        const char *box, *tooltip;
+    } boxes[] = {{0, "txOsszeg", "Összeg"}, {6, "RtxOsszeg", "Összeg"}, {7, "txUosszeg", "Utánvételi összeg"}};
+    for (const auto& row : boxes) {
+        goTo(row.tab);
+        auto& box = find(row.box);
+        const auto colour = [&box] { return box.grab().toImage().pixelColor(box.width() / 2, box.height() / 2); };
+        for (const char* typed : {"1500", "12a", "12.5", "1500"}) {
+            type(row.box, QString::fromLatin1(typed));
+            const bool agrees = typed == std::string("1500");
+            const bool red = colour().red() > colour().green() + 20;
+            EXPECT_EQ(red, !agrees) << row.box << typed;
+            const std::string differs = "A számjegyek és a betűs összeg eltér: a betűs összeg ";
+            const std::string read = typed == std::string("12a") ? "12." : "13.";
+            EXPECT_EQ(box.toolTip().toStdString(), agrees ? row.tooltip : differs + read);
+        }
+    }
+}
+
+TEST_F(WindowForms, EnterGoesToTheNextBoxOfThePage) {
+    const struct {
+        int tab;
+        std::vector<const char*> boxes;
+    } pages[] = {{0, {"txOsszeg", "txtSzoveg21", "txtSzoveg11", "Kozlemeny1", "txtKozl3sor_0"}},
+                 {0, {"txCim2", "txIrszam", "txOsszeg"}},
+                 {2, {"txCim3_2", "txUtanvet", "txtFeladov1"}}, // past the hidden declared value
+                 {6, {"txtIrszHatul", "RcsekkKozlemenyHatul_0", "RcsekkKozlemenyHatul_1"}}};
+    goTo(6);
+    press("cmdOldalCsere");
+    for (const auto& page : pages) {
+        goTo(page.tab);
+        find(page.boxes.front()).setFocus();
+        for (const char* box : page.boxes) {
+            EXPECT_EQ(window->focusWidget(), &find(box)) << box;
+            QTest::keyClick(window->focusWidget(), Qt::Key_Return);
+        }
+    }
+    EXPECT_TRUE(service.delivered.empty());
+}
+
+TEST_F(WindowForms, PaperIsLightOnADarkDesktop) {
+    QPalette dark(QColor(50, 50, 50), QColor(30, 30, 30));
+    dark.setColor(QPalette::Base, Qt::black);
+    const QPalette before = QApplication::palette();
+    QApplication::setPalette(dark);
+    open();
+    for (const auto* page : window->findChildren<StationeryPage*>())
+        for (const auto* part : page->findChildren<QWidget*>()) {
+            const QPalette& colours = part->palette();
+            EXPECT_GT(colours.color(QPalette::Base).lightness(), 200) << part->objectName().toStdString();
+            EXPECT_LT(colours.color(QPalette::WindowText).lightness(), 50) << part->objectName().toStdString();
+        }
+    const auto* list = find<QComboBox>("Kozlemeny1").view();
+    EXPECT_GT(list->palette().color(QPalette::Base).lightness(), 200);
+    QApplication::setPalette(before);
+}
+
+TEST_F(WindowForms, EnvelopeBoxesEndOnTheDrawnLines) {
+    const std::tuple<const char*, const char*, double> types[] = {
+        {"OpB1", "BoritekC6.svg", 114}, {"OpB2", "BoritekC5.svg", 162}, {"OpB3", "BoritekC56.svg", 114}};
+    const char* boxes[] = {"txtBoritekFeladoNev",    "txtBoritekFeladoCim1",  "txtBoritekFeladoCim2",
+                           "txtBoritekFeladoIrSzam", "txtFelado5mezo",        "txtBoritekCimzettNev",
+                           "txtBoritekCimzettNev2",  "txtBoritekCimzettCim1", "txtBoritekCimzettCim2"};
+    goTo(3);
+    const auto& page = find<StationeryPage>("Frame3");
+    for (const auto& [option, file, heightMm] : types) {
+        press(option);
+        QCoreApplication::processEvents();
+        QFile drawing(QStringLiteral(QT_TESTCASE_SOURCEDIR "/../assets/stationery/") + QLatin1String(file));
+        ASSERT_TRUE(drawing.open(QIODevice::ReadOnly));
+        static const QRegularExpression line(QStringLiteral("<line [^>]*y1=\"([0-9.]+)\""));
+        auto lines = line.globalMatch(QString::fromUtf8(drawing.readAll()));
+        const double twoPixels = 2 / pixelsPerMm(page); // a box ends on a whole one
+        for (const char* box : boxes) {
+            ASSERT_TRUE(lines.hasNext());
+            EXPECT_NEAR(bottomMm(page, heightMm, box), lines.next().captured(1).toDouble(), twoPixels) << file << box;
+        }
+        EXPECT_FALSE(lines.hasNext());
+    }
+}
+
+TEST_F(WindowForms, FormsShrinkToThreeFifthsAndNoTickMakesThemHigher) {
+    for (const auto* page : window->findChildren<StationeryPage*>())
+        EXPECT_NEAR(page->minimumSizeHint().height(), page->sizeHint().height() * 0.6, 1);
+    goTo(4);
+    const QWidget& labels = *find<QTabWidget>("SSTab1").currentWidget();
+    const int before = labels.minimumSizeHint().height();
+    press("chkEgyediCimke");
+    EXPECT_TRUE(shown("txEgyediCimke_4"));
+    EXPECT_EQ(labels.minimumSizeHint().height(), before);
+}
+
+TEST_F(WindowForms, ALabelLineWithoutAFontSaysWhatItPrintsInAndStoresNothing) {
+    goTo(4);
+    clickRow(0);
+    for (const auto& [box, hint] : {std::pair("ComboBetuTipus1_0", "Times New Roman CE"), {"ComboBetuSize_0", "12"}}) {
+        EXPECT_EQ(text(box), "");
+        EXPECT_EQ(find<QComboBox>(box).lineEdit()->placeholderText(), QLatin1String(hint));
+    }
+    EXPECT_EQ(find("lbNev1").font().pointSize(), 12);
+    press("cmbBetutipusok");
+    EXPECT_EQ(joined(prompts.told.back()), "! Rendben !| \nA betűtípusok mentése megtörtént...\n ");
+    EXPECT_EQ(readRecord<Betutip>(files).ComboBetuTipus1[0].trimmed(), QString());
+    EXPECT_EQ(readRecord<Betumeret>(files).ComboBetuSize[0], 0);
+}
+
+TEST_F(WindowForms, RulesReachTheClientInHandAndThePrompts) {
+    clickRow(0);
+    goTo(7);
+    press("chkCimzettCsereUlap");
+    EXPECT_EQ(text("lbUNev").rfind("Kiss Anna", 0), 0U);
+    goTo(4);
+    type("txtOszlop", QStringLiteral("5"));
+    press("cmdCimkeMeretRogzites");
+    EXPECT_EQ(joined(prompts.told.back()), "Figyelem!|Az oszlopok száma nem lehet több HÁROMNÁL!");
+}
+
+TEST_F(WindowForms, TheBarCodeIsTheDocumentNumber) {
+    goTo(5);
+    press("chkVkod");
+    type("txtIratKuldAzonosito", QStringLiteral("RL-9"));
+    type("txtIratSzama", QStringLiteral(" 12/2024 "));
+    EXPECT_EQ(text("lbVkod"), "12/2024");
+}
+
+} // namespace

@@ -1,0 +1,52 @@
+#include "records/file_replacement.h"
+#include "support/test_folder.h"
+
+#include <QDir>
+
+#include <gtest/gtest.h>
+
+#ifdef Q_OS_UNIX
+#include <csignal>
+#include <sys/resource.h>
+#endif
+
+using namespace Qt::Literals::StringLiterals;
+
+TEST(FileReplacement, PutsWholeFilesInPlaceAndClearsWhatAKillLeft) {
+    const TestFolder folder;
+    const QString path = folder.folder().file(u"a.dat"_s);
+    for (const QByteArray& bytes : {QByteArray("first"), QByteArray(100000, 'x'), QByteArray()}) {
+        EXPECT_TRUE(replaceFile(path, bytes));
+        EXPECT_EQ(folder.bytes(u"a.dat"_s), bytes);
+    }
+    EXPECT_FALSE(replaceFile(folder.folder().file(u"nincs/a.dat"_s), "x"));
+
+    for (const QString& name : {u"a.dat.AbCdEf"_s, u"b.dat"_s, u"a.dat.bak"_s})
+        folder.setBytes(name, "b");
+    removeUnfinished(path);
+    EXPECT_EQ(QDir(folder.folder().path()).entryList(QDir::Files),
+              (QStringList{u"a.dat"_s, u"a.dat.bak"_s, u"b.dat"_s}));
+    EXPECT_TRUE(moveOnto(folder.folder().file(u"b.dat"_s), path));
+    EXPECT_EQ(folder.bytes(u"a.dat"_s), QByteArray("b"));
+    EXPECT_FALSE(moveOnto(folder.folder().file(u"b.dat"_s), path));
+}
+
+#ifdef Q_OS_UNIX
+TEST(FileReplacement, WhatDoesNotFitOnTheDiskLeavesTheOldFile) {
+    const TestFolder folder;
+    folder.setBytes(u"a.dat"_s, "old");
+    const QString path = folder.folder().file(u"a.dat"_s);
+    // No file may grow beyond the limit, as on a full disk.
+    const auto former = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit limit{};
+    getrlimit(RLIMIT_FSIZE, &limit);
+    const rlimit full{4096, limit.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &full);
+    const bool replaced = replaceFile(path, QByteArray(10000, 'x')) || replaceFile(path, QByteArray(100000, 'x'));
+    setrlimit(RLIMIT_FSIZE, &limit);
+    std::signal(SIGXFSZ, former);
+    EXPECT_FALSE(replaced);
+    EXPECT_EQ(folder.bytes(u"a.dat"_s), QByteArray("old"));
+    EXPECT_EQ(QDir(folder.folder().path()).entryList(QDir::Files).size(), 1);
+}
+#endif
