@@ -48,6 +48,13 @@ protected:
             rule(tab, supply<std::remove_cvref_t<Needs>>(reach)...);
         };
     }
+    // The same for one of an array of controls.
+    template<class Tab, class... Needs>
+    void onEdit(const QWidget* control, Tab& tab, std::size_t index, void (*rule)(Tab&, std::size_t, Needs...)) {
+        edits_[control].rule = [this, &tab, index, rule] {
+            rule(tab, index, supply<std::remove_cvref_t<Needs>>(context_)...);
+        };
+    }
     // What the view itself does once the values are shown again: it moves the focus, or tells the window.
     void afterEdit(const QWidget* control, std::function<void()> step) { edits_[control].step = std::move(step); }
     // Runs whenever the values are shown.

@@ -1,23 +1,18 @@
 #include "mainwindow/envelope_label_rules.h"
 
+#include "mainwindow/label_cells.h"
 #include "prompts/titles.h"
 #include "records/number_text.h"
 #include "records/record_file.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace {
 
 constexpr int sheetWidthMm = 210;
 constexpr int sheetHeightMm = 297;
-
-QString placeNumber(std::size_t place) { return QString::number(place + 1); }
-
-void freePlace(LabelTab& tab, std::size_t place) {
-    tab.chkCimke1[place] = false;
-    tab.cimkeRekord[place] = 0;
-    tab.captions[place] = placeNumber(place);
-}
+constexpr int fewestRows = 3; // that give the height of a label
 
 QString unlessZero(const QString& shown, const QString& fallback) {
     return shown == QStringLiteral("0") ? fallback : shown;
@@ -32,22 +27,18 @@ QString partOf(int sideMm, int parts) {
 void layOut(LabelTab& tab, int mostColumns, int mostRows) {
     tab.gridColumns = std::max<int>(0, leadingI16(tab.txtOszlop));
     tab.gridRows = std::max<int>(0, leadingI16(tab.txtSor));
-    for (std::size_t place = 0; place < tab.captions.size(); ++place)
-        if (tab.cimkeRekord[place] == 0) tab.captions[place] = placeNumber(place);
+    showFreeNumbers(tab);
     if (tab.gridColumns >= 1 && tab.gridColumns <= mostColumns) tab.txtSzeles = partOf(sheetWidthMm, tab.gridColumns);
-    if (tab.gridRows >= 3 && tab.gridRows <= mostRows) tab.txtMagas = partOf(sheetHeightMm, tab.gridRows);
+    if (tab.gridRows >= fewestRows && tab.gridRows <= mostRows) tab.txtMagas = partOf(sheetHeightMm, tab.gridRows);
 }
 
-// A box that must hold a number and nothing else, with a point or a comma.
-std::optional<Cur> decimal(const QString& box) {
-    const QString text = trimBlanks(box).toString().replace(u',', u'.');
-    const QString digits = text.startsWith(u'-') ? text.mid(1) : text;
-    const bool isNumber =
-        std::any_of(digits.begin(), digits.end(), [](QChar c) { return c >= u'0' && c <= u'9'; }) &&
-        std::all_of(digits.begin(), digits.end(), [](QChar c) { return c == u'.' || (c >= u'0' && c <= u'9'); }) &&
-        digits.count(u'.') <= 1;
-    return isNumber ? std::optional(Cur::fromText(text)) : std::nullopt;
+// A box that the sheet is stored from must hold a number and nothing else.
+bool isWhole(const QString& box) {
+    constexpr std::int64_t most = std::numeric_limits<std::int16_t>::max();
+    const auto number = wholeNumber(box);
+    return number && *number >= -most && *number <= most;
 }
+bool isDecimal(const QString& box) { return decimalNumber(box).has_value(); }
 
 Message refusal(const QString& text) { return {Icon::information, titles::attention, text}; }
 
@@ -102,26 +93,34 @@ void openSheet(LabelTab& tab, const ProgramFolder& folder, Prompts& prompts) {
 
 void layOutSheet(LabelTab& tab) { layOut(tab, 3, 8); }
 
+const QString* wrongNumber(const LabelTab& tab) {
+    for (const QString* box : {&tab.txtOszlop, &tab.txtSor})
+        if (!isWhole(*box)) return box;
+    // The typed width never counts, and the height only where the rows don't give it.
+    if (leadingI16(tab.txtSor) < fewestRows && !isDecimal(tab.txtMagas)) return &tab.txtMagas;
+    for (const QString* box : {&tab.txtLeft, &tab.txtTop})
+        if (!isDecimal(*box)) return box;
+    return nullptr;
+}
+
 std::optional<Message> cmdCimkeMeretRogzites_Click(LabelTab& tab, CimkeSetup& set) {
     clearCells(tab);
+    if (const QString* wrong = wrongNumber(tab))
+        return Message{Icon::critical, titles::error,
+                       QStringLiteral("Hibás szám: ''%1''\nIde csak szám írható!").arg(*wrong)};
     // The limits are 4 and 10, the 40 places that there are, whatever the messages count.
     const std::int16_t columns = leadingI16(tab.txtOszlop);
     const std::int16_t rows = leadingI16(tab.txtSor);
     if (columns > 4) return refusal(QStringLiteral("Az oszlopok száma nem lehet több HÁROMNÁL!"));
     if (rows > 10) return refusal(QStringLiteral("A sorok száma nem lehet több NYOLCNÁL!"));
+    if (columns < 1 || rows < 1) return refusal(QStringLiteral("Az oszlopok és a sorok száma legalább 1 legyen!"));
     layOut(tab, 4, 10);
-    const auto left = decimal(tab.txtLeft);
-    const auto top = decimal(tab.txtTop);
-    const auto width = decimal(tab.txtSzeles);
-    const auto height = decimal(tab.txtMagas);
-    if (!left || !top || !width || !height)
-        return refusal(QStringLiteral("A cimkék helye és mérete csak szám lehet (mm)!"));
-    set.txtLeft = *left;
-    set.txtTop = *top;
+    set.txtLeft = *decimalNumber(tab.txtLeft);
+    set.txtTop = *decimalNumber(tab.txtTop);
     set.txtOszlop = columns;
     set.txtSor = rows;
-    set.txtSzeles = *width;
-    set.txtMagas = *height;
+    set.txtSzeles = *decimalNumber(tab.txtSzeles);
+    set.txtMagas = *decimalNumber(tab.txtMagas);
     return std::nullopt;
 }
 
@@ -143,19 +142,4 @@ void cmbBetutipusok_Click(LabelTab& tab, const ProgramFolder& folder, Prompts& p
     if (names && sizes)
         prompts.tell(
             {Icon::none, QStringLiteral("! Rendben !"), QStringLiteral(" \nA betűtípusok mentése megtörtént...\n ")});
-}
-
-void dropClient(LabelTab& tab, int recordNumber) {
-    for (std::size_t place = 0; place < tab.cimkeRekord.size(); ++place) {
-        int& client = tab.cimkeRekord[place];
-        if (client == recordNumber)
-            freePlace(tab, place);
-        else if (client > recordNumber)
-            --client;
-    }
-}
-
-void clearCells(LabelTab& tab) {
-    for (std::size_t place = 0; place < tab.cimkeRekord.size(); ++place)
-        freePlace(tab, place);
 }

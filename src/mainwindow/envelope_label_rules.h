@@ -43,14 +43,10 @@ void layOutSheet(LabelTab& tab);
 // printed labels stays. A message says why the sheet was refused: `set` is as it was, but the ticks are gone all the
 // same.
 [[nodiscard]] std::optional<Message> cmdCimkeMeretRogzites_Click(LabelTab& tab, CimkeSetup& set);
+// The first box, as they stand on the tab, whose text refuses the sheet for not being a number; null for none.
+const QString* wrongNumber(const LabelTab& tab);
 // The same on the stored sheet.
 void cmdCimkeMeretRogzites_Click(LabelTab& tab, const ProgramFolder& folder, Prompts& prompts);
 
 // Stores fonts and sizes of the five lines, and says so; silent where the files can't be written.
 void cmbBetutipusok_Click(LabelTab& tab, const ProgramFolder& folder, Prompts& prompts);
-
-// Client `recordNumber` was deleted: its places are free again, and those of the clients behind it follow their
-// numbers.
-void dropClient(LabelTab& tab, int recordNumber);
-// No place has a tick or a client any more.
-void clearCells(LabelTab& tab);

@@ -31,6 +31,8 @@ decltype(auto) supply(const FormContext& context) {
         return (context.device);
     else if constexpr (std::is_same_v<Need, Prompts>)
         return (context.prompts);
+    else if constexpr (std::is_same_v<Need, SelectedClient>)
+        return (context.selected);
     else if constexpr (std::is_same_v<Need, ClientRec>)
         return (context.selected.record.client);
     else

@@ -76,6 +76,13 @@ public:
     // Fonts that the five boxes offer.
     void offerFonts(const QStringList& fonts);
 
+Q_SIGNALS:
+    // A place was ticked while no client was clicked in the list.
+    void clientWanted();
+
+protected:
+    bool eventFilter(QObject* object, QEvent* event) override;
+
 private:
     QGroupBox* buildFonts();
     QGroupBox* buildSheet();
@@ -86,6 +93,7 @@ private:
     QFont lineFont(std::size_t line) const;
 
     LabelTab& tab_;
+    const ProgramFolder& folder_;
     QStringList fonts_;
     QStringList sizes_;
     QGridLayout* cells_ = nullptr;

@@ -5,6 +5,7 @@
 #include "mainwindow/client_zone.h"
 #include "mainwindow/envelope_label_rules.h"
 #include "mainwindow/envelope_picture.h"
+#include "mainwindow/label_cells.h"
 #include "mainwindow/main_menu.h"
 #include "mainwindow/pink_check_rules.h"
 #include "mainwindow/print_panel.h"
@@ -72,6 +73,7 @@ void frmTarlimo::connectParts() {
     });
     connect(SSTab1_, &TabStrip::searchWanted, this, [this](const QString& text) { searchList(text, 0); });
     connect(SSTab1_, &TabStrip::listWanted, clients_, &ClientZone::enterList);
+    connect(SSTab1_, &TabStrip::clientWanted, clients_, [this] { clients_->setFocus(); });
     connect(clients_, &ClientZone::rowClicked, this, &frmTarlimo::rowClicked);
     connect(clients_, &ClientZone::deletePressed, this,
             [this] { database_.cmdDel_Click(selected_.rekordszam, tabs_.yellowCheck.txNev); });

@@ -2,9 +2,11 @@
 #include "controls/named.h"
 #include "mainwindow/envelope_label_rules.h"
 #include "mainwindow/form_views.h"
+#include "mainwindow/label_cells.h"
 #include "records/number_text.h"
 
 #include <QCheckBox>
+#include <QEvent>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
@@ -32,7 +34,10 @@ QGridLayout* compactGrid(QWidget* box) {
 
 } // namespace
 
-LabelView::LabelView(LabelTab& tab, const FormContext& context) : BoundView(context), tab_(tab) {
+LabelView::LabelView(LabelTab& tab, const FormContext& context)
+    : BoundView(context)
+    , tab_(tab)
+    , folder_(context.folder) {
     for (int size = 10; size <= 24; size += 2)
         sizes_ << QString::number(size);
     auto* columns = new QHBoxLayout;
@@ -106,21 +111,34 @@ QGroupBox* LabelView::buildSheet() {
                                      QStringLiteral("1")};
     static const QStringList rows{QStringLiteral("10"), QStringLiteral("9"), QStringLiteral("8"), QStringLiteral("7"),
                                   QStringLiteral("6"),  QStringLiteral("5"), QStringLiteral("4"), QStringLiteral("3")};
-    const auto add = [form](int row, int column, const char* caption, QWidget* field) {
+    // The boxes by their values, to find the one that holds no number.
+    std::vector<std::pair<const QString*, QLineEdit*>> boxes;
+    const auto add = [form, &boxes](int row, int column, const char* caption, const QString& value, QWidget* field) {
         form->addWidget(new QLabel(QString::fromUtf8(caption)), row, column);
         form->addWidget(field, row, column + 1);
+        auto* combo = qobject_cast<EntryCombo*>(field);
+        boxes.emplace_back(&value, combo != nullptr ? combo->lineEdit() : static_cast<QLineEdit*>(field));
     };
     form->setColumnStretch(1, 1);
     form->setColumnStretch(3, 1);
-    add(0, 0, "Oszlop:", bindCombo(tab_.txtOszlop, columns, "txtOszlop"));
-    add(0, 2, "Sor:", bindCombo(tab_.txtSor, rows, "txtSor"));
-    add(1, 0, "Szélesség:", bindText(tab_.txtSzeles, "txtSzeles", "A cimke szélessége, mm"));
-    add(1, 2, "Magasság:", bindText(tab_.txtMagas, "txtMagas", "A cimke magassága, mm"));
-    add(2, 0,
-        "Balról:", bindText(tab_.txtLeft, "txtLeft", "A név első karakterének pozíciója az A4-es lap bal szélétől."));
-    add(2, 2, "Fentről:", bindText(tab_.txtTop, "txtTop", "A név első karakterének pozíciója az A4-es lap tetejétől."));
+    add(0, 0, "Oszlop:", tab_.txtOszlop, bindCombo(tab_.txtOszlop, columns, "txtOszlop"));
+    add(0, 2, "Sor:", tab_.txtSor, bindCombo(tab_.txtSor, rows, "txtSor"));
+    add(1, 0, "Szélesség:", tab_.txtSzeles, bindText(tab_.txtSzeles, "txtSzeles", "A cimke szélessége, mm"));
+    add(1, 2, "Magasság:", tab_.txtMagas, bindText(tab_.txtMagas, "txtMagas", "A cimke magassága, mm"));
+    add(2, 0, "Balról:", tab_.txtLeft,
+        bindText(tab_.txtLeft, "txtLeft", "A név első karakterének pozíciója az A4-es lap bal szélétől."));
+    add(2, 2, "Fentről:", tab_.txtTop,
+        bindText(tab_.txtTop, "txtTop", "A név első karakterének pozíciója az A4-es lap tetejétől."));
     QPushButton* store = bindButton("cmdCimkeMeretRogzites", QStringLiteral("&Rögzítés"));
     onEdit(store, tab_, cmdCimkeMeretRogzites_Click);
+    afterEdit(store, [this, boxes] {
+        const QString* wrong = wrongNumber(tab_);
+        for (const auto& [value, edit] : boxes) {
+            if (value != wrong) continue;
+            edit->setFocus();
+            edit->selectAll();
+        }
+    });
     form->addWidget(store, 3, 0, 1, 4);
     form->addWidget(new QLabel(QStringLiteral("Eddig kinyomtatott cimkék száma: ")), 4, 0, 1, 3);
     form->addWidget(bindLabel(tab_.lbKinyomottCimkeNum, "lbKinyomottCimkeNum"), 4, 3);
@@ -137,10 +155,23 @@ QGroupBox* LabelView::buildGrid() {
         // A name's '&' is a letter, not a mnemonic.
         onShow(
             [this, index, tick] { tick->setText(QString(tab_.captions[index]).replace(u'&', QStringLiteral("&&"))); });
+        onEdit(tick, tab_, index, chkCimke1_Click);
+        connect(tick, &QAbstractButton::toggled, this, [this, index](bool ticked) {
+            if (ticked && !tab_.chkCimke1[index]) Q_EMIT clientWanted(); // the tick was refused
+        });
+        tick->installEventFilter(this);
         tick->setParent(box);
         ticks_.push_back(tick);
     }
     return box;
+}
+
+// A tooltip tells the client as stored when it comes up.
+bool LabelView::eventFilter(QObject* object, QEvent* event) {
+    const auto tick = std::find(ticks_.begin(), ticks_.end(), object);
+    if (event->type() == QEvent::ToolTip && tick != ticks_.end())
+        (*tick)->setToolTip(plainToolTip(placeTip(tab_, static_cast<std::size_t>(tick - ticks_.begin()), folder_)));
+    return BoundView::eventFilter(object, event);
 }
 
 void LabelView::showGrid() {
@@ -204,13 +235,19 @@ QGroupBox* LabelView::buildCustom() {
     outer->setFlat(true);
     auto* layout = new QVBoxLayout(outer);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(bindCheck(tab_.chkEgyediCimke, "chkEgyediCimke", QStringLiteral("Egyedi cimke nyomtatás")));
+    QAbstractButton* custom =
+        bindCheck(tab_.chkEgyediCimke, "chkEgyediCimke", QStringLiteral("Egyedi cimke nyomtatás"));
+    onEdit(custom, tab_, chkEgyediCimke_Click);
+    layout->addWidget(custom);
     QGroupBox* box = frame("keretEgyediCimke", "Egyedi cimke");
     auto* lines = new QVBoxLayout(box);
     lines->setContentsMargins(6, 2, 6, 4);
     lines->setSpacing(2);
-    for (int line = 0; line < 5; ++line)
-        lines->addWidget(bindText(tab_.txEgyediCimke[static_cast<std::size_t>(line)], indexed("txEgyediCimke", line)));
+    for (int line = 0; line < 5; ++line) {
+        QLineEdit* text = bindText(tab_.txEgyediCimke[static_cast<std::size_t>(line)], indexed("txEgyediCimke", line));
+        onEdit(text, tab_, txEgyediCimke_Change);
+        lines->addWidget(text);
+    }
     QSizePolicy keepsRoom = box->sizePolicy();
     keepsRoom.setRetainSizeWhenHidden(true);
     box->setSizePolicy(keepsRoom);

@@ -38,6 +38,7 @@ TabStrip::TabStrip(FormTabs& tabs, const FormContext& context) : tabs_(tabs), co
     labels_ = findChild<LabelView*>();
     yellowCheck_->searchBox()->installEventFilter(this);
     connect(yellowCheck_, &YellowCheckView::searchWanted, this, &TabStrip::searchWanted);
+    connect(labels_, &LabelView::clientWanted, this, &TabStrip::clientWanted);
     connect(this, &QTabWidget::currentChanged, this, &TabStrip::store);
     connect(tabBar(), &QTabBar::tabBarClicked, this, [this](int clicked) {
         if (clicked == currentIndex()) store(); // a click on the tab in view reloads it

@@ -39,6 +39,8 @@ Q_SIGNALS:
     void searchWanted(const QString& text);
     // Down in the search box.
     void listWanted();
+    // A client has to be clicked before what was tried.
+    void clientWanted();
 
 protected:
     bool eventFilter(QObject* object, QEvent* event) override;

@@ -1,6 +1,7 @@
 #include "joined_texts.h"
 #include "mainwindow/catalogue_lists.h"
 #include "mainwindow/envelope_label_rules.h"
+#include "mainwindow/label_cells.h"
 #include "mainwindow/receipt_rules.h"
 #include "records/record_file.h"
 #include "records/reference_records.h"
@@ -76,10 +77,16 @@ TEST(LabelRules, FixingTheSheetTakesTheGridOrRefusesIt) {
         {"4", "10", "5", "1", nullptr, "29.7"},
         {"3", "7", "5", "1", nullptr, "42.4286"},
         {"3", "2", "5,5", "140.5", nullptr, "140.5"}, // with few rows the typed height stands
-        {"5", "6", "5", "1", "Az oszlopok száma nem lehet több HÁROMNÁL!", ""},
-        {"2", "11", "5", "1", "A sorok száma nem lehet több NYOLCNÁL!", ""},
-        {"2", "2", "5", "sok", "A cimkék helye és mérete csak szám lehet (mm)!", ""},
-        {"2", "6", "", "1", "A cimkék helye és mérete csak szám lehet (mm)!", ""},
+        {"1", "1", " 0.5 ", "99,5", nullptr, "99.5"},
+        {"5", "6", "5", "1", "Figyelem!|Az oszlopok száma nem lehet több HÁROMNÁL!", ""},
+        {"2", "11", "5", "1", "Figyelem!|A sorok száma nem lehet több NYOLCNÁL!", ""},
+        {"0", "6", "5", "1", "Figyelem!|Az oszlopok és a sorok száma legalább 1 legyen!", ""},
+        {"2", "-1", "5", "1", "Figyelem!|Az oszlopok és a sorok száma legalább 1 legyen!", ""},
+        {"2", "2", "5", "sok", "Hiba|Hibás szám: ''sok''\nIde csak szám írható!", ""},
+        {"2", "6", "", "sok", "Hiba|Hibás szám: ''''\nIde csak szám írható!", ""}, // the height is worked out here
+        {"2", "6", "1.2.3", "1", "Hiba|Hibás szám: ''1.2.3''\nIde csak szám írható!", ""},
+        {"2.5", "6", "5", "1", "Hiba|Hibás szám: ''2.5''\nIde csak szám írható!", ""},
+        {"2", "32768", "5", "1", "Hiba|Hibás szám: ''32768''\nIde csak szám írható!", ""},
     };
     for (const auto& sheet : sheets) {
         SCOPED_TRACE(std::string(sheet.columns) + 'x' + sheet.rows);
@@ -98,7 +105,7 @@ TEST(LabelRules, FixingTheSheetTakesTheGridOrRefusesIt) {
         EXPECT_EQ(tab.captions[3], QStringLiteral("4"));
         ASSERT_EQ(message.has_value(), sheet.message != nullptr);
         if (message) {
-            EXPECT_EQ(joined(*message), std::string("Figyelem!|") + sheet.message);
+            EXPECT_EQ(joined(*message), sheet.message);
             EXPECT_EQ(set.txtOszlop, 0);
         } else {
             EXPECT_EQ(set.txtMagas.text(), QLatin1String(sheet.storedHeight));
