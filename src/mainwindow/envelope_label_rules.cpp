@@ -86,6 +86,10 @@ void showSheet(LabelTab& tab, const CimkeSetup& set) {
     tab.txtSor = unlessZero(QString::number(set.txtSor), QStringLiteral("6"));
     tab.txtSzeles = set.txtSzeles.text();
     tab.txtMagas = set.txtMagas.text();
+    showCount(tab, set);
+}
+
+void showCount(LabelTab& tab, const CimkeSetup& set) {
     tab.lbKinyomottCimkeNum = QString::number(set.lbKinyomottCimkeNum);
 }
 

@@ -29,6 +29,9 @@ void showClient(LabelTab& tab, const ClientRec& client);
 // only, not stored.
 void showSheet(LabelTab& tab, const CimkeSetup& set);
 
+// The labels printed so far.
+void showCount(LabelTab& tab, const CimkeSetup& set);
+
 // The tab comes into view. The first visit stores the fallbacks of a sheet that was never fixed.
 void openSheet(LabelTab& tab, const ProgramFolder& folder, Prompts& prompts);
 // What any later visit does: the ticks follow the columns and rows of the boxes, and so do the shown label sizes of up

@@ -1,4 +1,6 @@
 #include "controls/named.h"
+#include "mainwindow/envelope_label_rules.h"
+#include "mainwindow/envelope_picture.h"
 #include "mainwindow/form_views.h"
 
 #include <QCheckBox>
@@ -148,7 +150,10 @@ QWidget* EnvelopeView::buildTypes() {
     for (const TypeRow& row : types)
         column->addWidget(bindOption(
             row.option, QString::fromUtf8(row.caption), [this, &row] { return tab_.type == row.type; },
-            [this, &row] { tab_.type = row.type; }));
+            [this, &row] {
+                tab_.type = row.type;
+                showPicturePosition(tab_);
+            }));
     return box;
 }
 
@@ -198,14 +203,19 @@ QWidget* EnvelopeView::buildPicture() {
     QLabel* picture = label("Image3");
     picture->setFrameStyle(QFrame::Box | QFrame::Plain);
     picture->setText(QStringLiteral("kép"));
+    picture->setScaledContents(true);
     picture->setAlignment(Qt::AlignCenter);
     picture->setAttribute(Qt::WA_TransparentForMouseEvents); // the boxes under it stay within reach
     page()->place(picture, {});
     QLabel* warning = label("lbFigyelem"); // shown once the picture can be moved off the envelope
     warning->hide();
     grid->addWidget(warning, 3, 0, 1, 4);
-    onShow([this, box, picture] {
-        page()->place(picture, tab_.Image3);
+    picture->lower(); // the boxes stay readable on it
+    onShow([this, box, picture, shown = qint64{0}]() mutable {
+        page()->place(picture, pictureOnEnvelope(tab_));
+        if (!tab_.picture.isNull() && shown != tab_.picture.cacheKey())
+            picture->setPixmap(QPixmap::fromImage(tab_.picture));
+        shown = tab_.picture.cacheKey();
         picture->setVisible(tab_.chkKepPrint);
         box->setVisible(tab_.chkKepPrint);
     });

@@ -4,6 +4,7 @@
 #include "mainwindow/client_pour.h"
 #include "mainwindow/client_zone.h"
 #include "mainwindow/envelope_label_rules.h"
+#include "mainwindow/envelope_picture.h"
 #include "mainwindow/main_menu.h"
 #include "mainwindow/pink_check_rules.h"
 #include "mainwindow/print_panel.h"
@@ -85,6 +86,11 @@ void frmTarlimo::connectParts() {
     });
     connect(panel_, &PrintPanel::printPressed, this, [this] { printing_.press(Press::single, SSTab1_->tab()); });
     connect(panel_, &PrintPanel::batchPressed, this, [this] { printing_.press(Press::batch, SSTab1_->tab()); });
+    connect(&printing_, &PrintActions::printed, this, [this](Tab tab) {
+        if (tab != Tab::label) return;
+        showCount(tabs_.label, readRecord<CimkeSetup>(folder_));
+        SSTab1_->showValues();
+    });
     connect(qGuiApp, &QGuiApplication::commitDataRequest, this, &frmTarlimo::storeState);
 }
 
@@ -124,7 +130,7 @@ void frmTarlimo::load() {
     clients_->Beolvas();
     SSTab1_->offerFonts(services_.printing.fonts());
     restoreLabelFonts(tabs_.label, readRecord<Betutip>(folder_), readRecord<Betumeret>(folder_));
-    showPicturePlacement(tabs_.envelope, readRecord<Kepment>(folder_));
+    restorePicture(tabs_.envelope, readRecord<Kepment>(folder_));
     SSTab1_->showValues();
     restoreArrangement(folder_, *this, *splitter_, *clients_);
 }

@@ -20,6 +20,7 @@ void PrintActions::press(Press press, Tab tab) {
     if (outcome.trouble.isEmpty()) outcome.trouble = amountTrouble(request);
     desk_.panel.setButtonsEnabled(true);
     report(outcome);
+    Q_EMIT printed(tab);
     if (focus) focus->setFocus(); // a disabled button has passed it on
 }
 

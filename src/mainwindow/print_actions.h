@@ -30,6 +30,10 @@ public:
     // Prints the form of `tab` once or for each selected client. The focus stays where it was.
     void press(Press press, Tab tab);
 
+Q_SIGNALS:
+    // A press has been carried out, whatever came of it.
+    void printed(Tab tab);
+
 private:
     PrintOutcome print(const PrintRequest& request);
     QString amountTrouble(const PrintRequest& request) const;

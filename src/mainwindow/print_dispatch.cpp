@@ -3,6 +3,9 @@
 #include "printing/amount_in_words.h"
 #include "printing/cash_on_delivery.h"
 #include "printing/document_receipt.h"
+#include "printing/envelope.h"
+#include "printing/label_sheet.h"
+#include "printing/pen.h"
 #include "printing/pink_check.h"
 #include "printing/posting_receipt.h"
 #include "printing/return_receipt.h"
@@ -44,11 +47,11 @@ constexpr Route routes[] = {
     {Tab::postingReceipt, single, sideways, PrintFekvoFelado},
     {Tab::postingReceipt, batch, upright, PrintCsAlloFelado},
     {Tab::postingReceipt, batch, sideways, PrintCsFekvoFelado},
-    {Tab::envelope, single, upright, notBuilt},
-    {Tab::envelope, single, sideways, notBuilt},
-    {Tab::envelope, batch, upright, notBuilt},
-    {Tab::envelope, batch, sideways, notBuilt},
-    {Tab::label, single, upright, notBuilt},
+    {Tab::envelope, single, upright, PrintAlloBoritek},
+    {Tab::envelope, single, sideways, PrintFekvoBoritek},
+    {Tab::envelope, batch, upright, PrintCsAlloBoritek},
+    {Tab::envelope, batch, sideways, PrintCsFekvoBoritek},
+    {Tab::label, single, upright, PrintAlloCimke},
     {Tab::documentReceipt, single, upright, PrintAlloIrat},
     {Tab::documentReceipt, single, sideways, PrintFekvoIrat},
     {Tab::documentReceipt, batch, upright, PrintCsAlloIrat},
@@ -137,6 +140,26 @@ bool isBatchMeant(const PrintDesk& desk, const FormTabs& tabs, const PrintReques
     return question.isEmpty() || confirms(desk.prompts, question);
 }
 
+// Labels print on the device and the page that the last job has left; empty where these are as they should be.
+QString sheetQuestion(const PrintDevice& device, const Set& set) {
+    if (device.pageSetup() != PageSetup{})
+        return u"A nyomtató beállítása nem álló A4-es lap.\n\nÁtállítsam álló A4-re a nyomtatás előtt?"_s;
+    const bool isChosen = set.opPrinter_1 ? device.followsDefault() : device.currentPrinter() == set.lbPrintNo;
+    return isChosen ? QString()
+                    : u"A cimkék nem a beállított nyomtatóra kerülnének.\n\nÁtállítsam arra a nyomtatás előtt?"_s;
+}
+
+// Puts both in order if the clerk says so. The outcome's trouble tells that it failed.
+PrintOutcome prepareSheet(const PrintDesk& desk) {
+    const auto set = readRecord<Set>(desk.folder);
+    const QString question = sheetQuestion(desk.device, set);
+    if (question.isEmpty() || desk.prompts.ask({Icon::question, titles::warning, question}) == Answer::no) return {};
+    Pen pen(desk, FailureWay::message, {}, FirstPage::asLeft);
+    pen.SelectPrinter(set, TrackDefault::set);
+    pen.OpenForm({1, 9, {}});
+    return pen.outcome();
+}
+
 PrintOutcome nothing(const QString& why) { return {0, {}, why}; }
 
 } // namespace
@@ -150,5 +173,6 @@ PrintOutcome dispatchPrint(const PrintDesk& desk, const FormTabs& tabs, const Pr
     const bool meant = request.press == single ? isSingleMeant(desk, tabs.yellowCheck, shownName)
                                                : isBatchMeant(desk, tabs, request, rows);
     if (!meant) return nothing(u"A nyomtatást nem kérted."_s);
-    return print(desk, tabs, rows);
+    const PrintOutcome prepared = request.tab == Tab::label ? prepareSheet(desk) : PrintOutcome();
+    return prepared.trouble.isEmpty() ? print(desk, tabs, rows) : prepared;
 }

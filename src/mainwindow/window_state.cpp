@@ -1,7 +1,5 @@
 #include "mainwindow/window_state.h"
 
-#include <algorithm>
-
 namespace {
 
 struct BoldRow {
@@ -47,19 +45,6 @@ void restoreLabelFonts(LabelTab& tab, const Betutip& fonts, const Betumeret& siz
         tab.ComboBetuSize[line] =
             size == 0 ? QString() : QString::number(size); // never stored: the box says the default
     }
-}
-
-void showPicturePlacement(EnvelopeTab& tab, const Kepment& stored) {
-    // Twips of the screen to a millimetre of the envelope; a C5 envelope is shown flatter than the others.
-    constexpr double across = 44;
-    const double down = tab.type == EnvelopeType::C5 ? 31 : 44;
-    constexpr double leastTwips = 1900; // of a picture that was never sized
-    const auto size = [leastTwips](const Cur& twips) { return std::max(leastTwips, double{twips.toFloat()}); };
-    tab.Image3 =
-        QRectF(stored.Left / across, stored.Top / down, size(stored.Width) / across, size(stored.Height) / down);
-    const auto shown = [](double mm) { return qRound(mm) == 0 ? QString() : QString::number(qRound(mm)); };
-    tab.lbXpoz = shown(tab.Image3.x());
-    tab.lbYpoz = shown(tab.Image3.y());
 }
 
 void storeTabs(const FormTabs& tabs, Set& set) {

@@ -3,7 +3,6 @@
 #include "mainwindow/client_pour.h"
 #include "settings/envelope_label_settings.h"
 #include "settings/general_settings.h"
-#include "settings/other_settings.h"
 
 // What the window remembers from one run to the next, between the records and the values of the tabs. The controls that
 // aren't on a tab (printer, list order, tab number) are the window's own.
@@ -14,8 +13,6 @@ void restoreTabs(FormTabs& tabs, const Set& set);
 void restoreBold(EnvelopeTab& tab, const boritek& set);
 // Fonts and sizes of the label lines.
 void restoreLabelFonts(LabelTab& tab, const Betutip& fonts, const Betumeret& sizes);
-// Box of the envelope's picture in mm, from its place on the screen, and its position as shown: nothing for 0.
-void showPicturePlacement(EnvelopeTab& tab, const Kepment& stored);
 
 // The other way, at exit; all other fields are left alone.
 void storeTabs(const FormTabs& tabs, Set& set);

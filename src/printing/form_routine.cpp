@@ -8,7 +8,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr std::size_t manyPages = 20;           // from here on a batch without a dialog is asked for
+constexpr int manyPages = 20;                   // from here on a batch without a dialog is asked for
 constexpr std::int32_t largestAmount = 9999999; // that can be put in words
 
 bool isClientNumber(int number) { return number >= 1 && number <= maxClientNumber; }
@@ -35,10 +35,7 @@ void announce(Pen& pen, const PrintDesk& desk, const FormRoutine& routine, const
         const QString amounts = routine.printsAmount ? amountsOf(desk.folder, numbers) : QString();
         return pen.ShowPrinter(u"%1 %2"_s.arg(numbers.size()).arg(routine.noun) + amounts);
     }
-    if (numbers.size() < manyPages) return;
-    const QString question = u"%1 oldal nyomtatása következik.\n\nMehet?"_s.arg(numbers.size());
-    if (desk.prompts.ask({Icon::question, titles::warning, question}) == Answer::no)
-        pen.Drop(u"A nyomtatást nem kérted."_s);
+    askForManyPages(pen, desk, static_cast<int>(numbers.size()));
 }
 
 void checkNumbers(Pen& pen, const std::vector<int>& numbers) {
@@ -67,6 +64,13 @@ void printPages(Pen& pen, const ProgramFolder& folder, bool readsTwin, const std
 }
 
 } // namespace
+
+void askForManyPages(Pen& pen, const PrintDesk& desk, int pages) {
+    if (!desk.attended || pen.stopped() || pages < manyPages) return;
+    const QString question = u"%1 oldal nyomtatása következik.\n\nMehet?"_s.arg(pages);
+    if (desk.prompts.ask({Icon::question, titles::warning, question}) == Answer::no)
+        pen.Drop(u"A nyomtatást nem kérted."_s);
+}
 
 PrintOutcome printOne(const PrintDesk& desk, const FormRoutine& routine, const PrintForm& print,
                       const std::optional<Message>& missing) {

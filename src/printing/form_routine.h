@@ -37,3 +37,7 @@ PrintOutcome printOne(const PrintDesk& desk, const FormRoutine& routine, const P
 // record number cannot hold, or none at all, is error 6 before the first page, and never becomes a page.
 PrintOutcome printEach(const PrintDesk& desk, const FormRoutine& routine, const ListRows& rows,
                        const PrintClient& print);
+
+// Before the first page of a job without a print dialog: many pages are asked for, and a no drops the job. Automatic
+// printing isn't asked.
+void askForManyPages(Pen& pen, const PrintDesk& desk, int pages);

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "records/stored_types.h"
+
+#include <QImage>
 #include <QRectF>
 #include <QString>
 #include <QStringList>
@@ -61,8 +64,11 @@ struct EnvelopeTab {
     bool chkFKCNev = false, chkFKCNev2 = false, chkFKCCim1 = false, chkFKCCim2 = false, chkFKCIrsz = false;
     QString txtFelado5mezo;
     bool chkKepPrint = false;
-    QRectF Image3;          // box of the picture on the envelope, mm
-    QString lbXpoz, lbYpoz; // its position, whole mm, as shown
+    QString kepFajl;               // path of the picture; empty for none
+    QImage picture;                // as loaded, on white paper; nothing prints while it is null
+    QRectF Image3;                 // its box, twips of the screen; what follows is worked out from it
+    QString lbXpoz, lbYpoz;        // its position on the envelope, whole mm, as shown
+    Cur kepSzeles{0}, kepMagas{0}; // its printed size, cm
 };
 
 struct LabelTab {

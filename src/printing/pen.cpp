@@ -99,6 +99,10 @@ void Pen::SkipLine() {
     attempt([&] { device_.Print(u" "_s, LineEnd::yes); });
 }
 
+void Pen::PaintPicture(const QImage& picture, float x, float y, float width, float height) {
+    attempt([&] { device_.PaintPicture(picture, x, y, width, height); });
+}
+
 void Pen::EndForm(FormEnd end) {
     attempt([&] { end == FormEnd::page ? device_.NewPage() : handOver(); });
 }

@@ -66,6 +66,7 @@ public:
     void PlaceHold(float x, std::optional<float> y, const QString& text);
     void MoveToLine(float y);
     void SkipLine();
+    void PaintPicture(const QImage& picture, float x, float y, float width, float height);
     void EndForm(FormEnd end);
     // One more page of a batch is written: tells the desk, whose answer may drop the job.
     void PageWritten(int done, int pages);

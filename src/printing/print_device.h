@@ -22,6 +22,8 @@ public:
     // Makes a member of the list current, with that device's own default page; ends TrackDefault. DeviceError 9 beyond
     // the list.
     void setCurrentPrinter(int index);
+    // Whether it goes where the system's default goes.
+    bool followsDefault() const { return trackDefault_; }
     // For the job that begins next (or has begun) alone; after its EndDoc or KillDoc, which count without a page too,
     // the former device and a single copy are in force again. The page set-up is left as it is. DeviceError 9 beyond
     // the list.
@@ -32,6 +34,8 @@ public:
     // between jobs.
     void startJob(FirstPage page = FirstPage::ownPage);
 
+    // The page that the next write begins.
+    const PageSetup& pageSetup() const { return setup_; }
     void setScaleMode(int mode); // 6, millimetres, is the one served; DeviceError 380 for others
     void setOrientation(int orientation);
     void setPaperSize(int paperCode);             // ends a size of the form's own

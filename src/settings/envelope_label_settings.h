@@ -6,7 +6,8 @@
 #include <cstddef>
 
 // Envelope positions are whole mm from the envelope's edges, for the three types C6, C5 and C5/6; sizes are points.
-// These records have no factory values.
+// These records have no factory values, and the program never writes any; firstRun() is what a new program folder comes
+// with, so that a first envelope or label prints.
 
 struct boritek {
     static constexpr auto fileName = "boritek.dat";
@@ -38,6 +39,8 @@ struct boritek {
     Text<25> cmbBoritekNevBetutipus;
     I16 txtBoritekNevBetumeret;
     I16 txtBoritekFeladoBetumeret;
+
+    static boritek firstRun();
 };
 static_assert(sizeof(boritek) == 195 && offsetof(boritek, chkFKFNev) == 148 &&
               offsetof(boritek, txtBoritekNevBetumeret) == 191);
@@ -59,9 +62,13 @@ static_assert(sizeof(CimkeSetup) == 40 && offsetof(CimkeSetup, txtOszlop) == 32)
 struct Betutip {
     static constexpr auto fileName = "Betutip.dat";
     std::array<Text<30>, 5> ComboBetuTipus1;
+
+    static Betutip firstRun();
 };
 struct Betumeret {
     static constexpr auto fileName = "Betumeret.dat";
     std::array<I16, 5> ComboBetuSize;
+
+    static Betumeret firstRun();
 };
 static_assert(sizeof(Betutip) == 150 && sizeof(Betumeret) == 10);

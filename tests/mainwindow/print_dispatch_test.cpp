@@ -1,6 +1,7 @@
 #include "joined_texts.h"
 #include "mainwindow/print_dispatch.h"
 #include "printing/check_fixture.h"
+#include "settings/envelope_label_settings.h"
 #include "settings/receipt_layouts.h"
 
 namespace {
@@ -13,10 +14,12 @@ protected:
         tabs.yellowCheck.txNev = QStringLiteral("Kiss Anna");
         tabs.yellowCheck.txOsszeg = QStringLiteral("1500");
         tabs.returnReceipt.txNev2 = tabs.cashOnDelivery.txUNev = QStringLiteral("Kiss Anna");
+        tabs.envelope.txtBoritekCimzettNev = QStringLiteral("Kiss Anna");
         files.store(SetTerti::factory());
         tabs.postingReceipt.txNev3 = tabs.documentReceipt.txtIratCimzettNev = tabs.yellowCheck.txNev;
         files.store(SetFveveny::factory());
         files.store(SetIrat2::factory());
+        files.store(boritek::firstRun());
     }
     PrintOutcome print(Tab tab, Feed feed, Press press) {
         return dispatchPrint(desk, tabs, {tab, press, feed}, rows, QStringLiteral("Kiss Anna"));
@@ -31,8 +34,11 @@ protected:
     std::string lastPrinted() const {
         const PrintJob& job = lastJob().job;
         const PageSetup& setup = job.pages.front().setup;
-        const bool envelope = setup.paperSize == 27 && setup.orientation == 2;
-        const char* paper = setup.sizeMm ? " own " : envelope ? " DL " : " A4 ";
+        const bool across = setup.orientation == 2;
+        const char* paper = setup.sizeMm                      ? " own "
+                            : setup.paperSize == 27 && across ? " DL "
+                            : setup.paperSize == 28           ? (across ? " C5 " : " C5 upright ")
+                                                              : " A4 ";
         return job.title.toStdString() + paper + std::to_string(job.pages.size());
     }
 
@@ -70,7 +76,11 @@ TEST_F(PrintDispatch, TabFeedAndButtonFindTheRoutine) {
                   {Tab::cashOnDelivery, Press::single, Feed::upright, "utanveteli-lap DL 1", 0},
                   {Tab::cashOnDelivery, Press::single, Feed::sideways, "utanveteli-lap A4 1", 0},
                   {Tab::cashOnDelivery, Press::batch, Feed::upright, "utanveteli-lap DL 2", 0},
-                  {Tab::cashOnDelivery, Press::batch, Feed::sideways, "utanveteli-lap own 2", 0}};
+                  {Tab::cashOnDelivery, Press::batch, Feed::sideways, "utanveteli-lap own 2", 0},
+                  {Tab::envelope, Press::single, Feed::upright, "boritek C5 1", 0},
+                  {Tab::envelope, Press::single, Feed::sideways, "boritek C5 upright 1", 0},
+                  {Tab::envelope, Press::batch, Feed::upright, "boritek C5 2", 0},
+                  {Tab::envelope, Press::batch, Feed::sideways, "boritek C5 upright 2", 0}};
     for (const auto& route : routes) {
         prompts.printerChoices.assign(route.dialogs, PrinterChoice{0, 1});
         ASSERT_GT(print(route.tab, route.feed, route.press).pages, 0) << route.printed;
@@ -176,6 +186,51 @@ TEST_F(PrintDispatch, ABatchTellsWhoseStreetItLeavesOut) {
     EXPECT_EQ(print(Tab::returnReceipt, Feed::sideways, Press::batch).pages, 4);
     EXPECT_EQ(::joined(prompts.told.at(0)),
               "Figyelem!|2 külföldi címzett utcája a csoportos nyomtatásban nem szerepel!");
+}
+
+TEST_F(PrintDispatch, LabelsAskForAnUprightA4PageOnTheChosenPrinter) {
+    auto sheet = zeroRecord<CimkeSetup>();
+    sheet.txtOszlop = sheet.txtSor = 2;
+    files.store(sheet);
+    const std::string page = "A nyomtató beállítása nem álló A4-es lap.\n\nÁtállítsam álló A4-re a nyomtatás előtt?";
+    const std::string printer =
+        "A cimkék nem a beállított nyomtatóra kerülnének.\n\nÁtállítsam arra a nyomtatás előtt?";
+    const struct {
+        bool systemDefault; // by the settings; else device 1
+        std::function<void()> before;
+        std::string question; // empty for none
+        int asLeft, inOrder;  // devices that a no and a yes print on
+    } states[] = {
+        {false, [&] { device.setCurrentPrinter(1); }, {}, 1, 1},
+        {false, [&] { device.setCurrentPrinter(0); }, printer, 0, 1},
+        {false, [&] { device.setTrackDefault(true); }, printer, 2, 1},
+        {true, [&] { device.setTrackDefault(true); }, {}, 2, 2},
+        {true, [&] { device.setCurrentPrinter(1); }, printer, 1, 2},
+        {false, [&] { print(Tab::envelope, Feed::upright, Press::single); }, page, 1, 1},
+        {false, [&] { print(Tab::cashOnDelivery, Feed::sideways, Press::batch); }, page, 1, 1},
+    };
+    for (int number = 0; const auto& state : states) {
+        SCOPED_TRACE(++number);
+        for (const Answer answer : {Answer::no, Answer::yes}) {
+            set.opPrinter_1 = state.systemDefault;
+            storeSettings();
+            state.before();
+            const PageSetup left = device.pageSetup();
+            if (!state.question.empty()) prompts.answers = {answer};
+            ASSERT_EQ(print(Tab::label, Feed::upright, Press::single).pages, 1);
+            EXPECT_TRUE(prompts.answers.empty());
+            EXPECT_EQ(lastJob().printer, answer == Answer::yes ? state.inOrder : state.asLeft);
+            EXPECT_EQ(lastSetup(), answer == Answer::yes ? PageSetup() : left);
+            if (state.question.empty()) continue;
+            EXPECT_EQ(::joined(prompts.asked.back()), " FIGYELEM |" + state.question);
+        }
+    }
+    set.opPrinter_1 = false;
+    set.lbPrintNo = 7;
+    storeSettings();
+    prompts.answers = {Answer::yes};
+    EXPECT_EQ(trouble(Tab::label, Feed::upright, Press::single), "Az index kívül esik a tartományon");
+    EXPECT_EQ(prompts.told.at(0).title, QStringLiteral("! HIBA !"));
 }
 
 } // namespace

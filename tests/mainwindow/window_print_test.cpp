@@ -157,6 +157,18 @@ TEST_F(WindowPrint, StatusLineOpensThePdfAndForgetsItForTheNextClient) {
     EXPECT_EQ(status(), "Nem készült nyomat. Az összeg üres vagy nulla.");
 }
 
+TEST_F(WindowPrint, TheLabelTabShowsWhatItHasCounted) {
+    goTo(4);                         // fixes a sheet of 2 x 6
+    prompts.answers = {Answer::yes}; // to the device of the settings
+    press("cmdPrint");
+    EXPECT_EQ(text("lbKinyomottCimkeNum"), "1");
+    clickRow(1, Qt::ControlModifier);
+    press("cmdPrint");
+    EXPECT_EQ(text("lbKinyomottCimkeNum"), "3");
+    EXPECT_TRUE(printed(0, "Kiss Anna") && printed(0, "Nagy Béla"));
+    EXPECT_EQ(status(), "1 oldal kinyomtatva: Elso. ");
+}
+
 // Half a second of nothing has to pass before a bar is shown at all.
 TEST_F(WindowPrint, LongWorkShowsItselfAndOnlyItsCancelIsServed) {
     QStatusBar owner;

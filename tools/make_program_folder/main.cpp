@@ -3,6 +3,7 @@
 #include "records/file_replacement.h"
 #include "records/record_file.h"
 #include "settings/check_layouts.h"
+#include "settings/envelope_label_settings.h"
 #include "settings/general_settings.h"
 #include "settings/receipt_layouts.h"
 
@@ -124,6 +125,9 @@ void makeAll(FolderMaker& maker) {
     maker.record(SetTerti::factory());
     maker.record(SetFveveny::factory());
     maker.record(SetIrat2::factory());
+    maker.record(boritek::firstRun());
+    maker.record(Betutip::firstRun());
+    maker.record(Betumeret::firstRun());
 }
 
 } // namespace
