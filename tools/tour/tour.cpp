@@ -1,5 +1,7 @@
 #include "tour.h"
 
+#include "mainwindow/stationery_page.h"
+#include "overlay.h"
 #include "records/client_database.h"
 
 #include <QAction>
@@ -43,7 +45,7 @@ std::optional<PrinterChoice> TourPrompts::choosePrinter(const QStringList&, int,
 Tour::Tour(const QString& delivered, const QString& results)
     : results_(results)
     , folder_(freshFolder(delivered))
-    , printing_(folder_, Devices::pdfOnly) {
+    , printing_(folder_) {
     prompts_.csv = folder_.file(QStringLiteral("mintaugyfelek.csv"));
 }
 
@@ -72,6 +74,7 @@ int Tour::run() {
     typeTexts();
     printForms("cmdPrint", QStringLiteral("egyes"), 1);
     printBatches();
+    printLabels();
     openSetup(0);
     openSetup(6);
     closeAndReopen();
@@ -130,6 +133,17 @@ void Tour::print(const char* button, const QString& form, int pages) {
     const QString target = results_ + u'/' + form + QStringLiteral(".pdf");
     QFile::remove(target);
     check(QFile::copy(printing_.lastPdf(), target), form + QStringLiteral(".pdf"));
+    layOverStationery(form);
+}
+
+void Tour::layOverStationery(const QString& form) {
+    const auto* tab = window_->findChild<QTabWidget*>(QStringLiteral("SSTab1"))->currentWidget();
+    const auto* page = tab->findChild<StationeryPage*>();
+    if (page == nullptr) return; // labels have no stationery
+    const bool upright = window_->findChild<QRadioButton*>(QStringLiteral("OpOrientacioAllo"))->isChecked();
+    const QImage laid = layOver(printing_.job.pages.front(), QImage(folder_.file(page->picture())), page->sizeMm(),
+                                upright ? Feed::upright : Feed::sideways, fonts_);
+    check(laid.save(results_ + u'/' + form + QStringLiteral(".png")), form + QStringLiteral(" over the stationery"));
 }
 
 void Tour::importClients() {
@@ -242,6 +256,22 @@ void Tour::printBatches() {
     selectBatch(clients);
     shoot(QStringLiteral("05-csoportos"));
     printForms("cmdCsPrint", QStringLiteral("csoportos"), clients);
+}
+
+// A sheet for the list, one for a client put onto a place by hand, and one with a text of its own.
+void Tour::printLabels() {
+    showTab(labelTab);
+    selectBatch(14);
+    print("cmdPrint", QStringLiteral("etikett-lista"), 2);
+    clickRow(2);
+    click("chkCimke1_3");
+    shoot(QStringLiteral("05-etikett-cella"));
+    print("cmdPrint", QStringLiteral("etikett-cella"), 1);
+    click("chkEgyediCimke");
+    type("txEgyediCimke_0", QStringLiteral("Egyedi szöveg"));
+    shoot(QStringLiteral("05-etikett-egyedi"));
+    print("cmdPrint", QStringLiteral("etikett-egyedi"), 1);
+    click("chkEgyediCimke");
 }
 
 void Tour::openSetup(int tab) {
