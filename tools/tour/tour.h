@@ -55,7 +55,7 @@ private:
 
     void importClients();
     void walkTabs();
-    void layOverStationery(const QString& form);
+    void layOverStationery(const QString& form, QPointF corner);
     void typeTexts();
     void printForms(const char* button, const QString& what, int pages);
     void selectBatch(int clients);
