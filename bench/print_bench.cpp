@@ -1,6 +1,7 @@
 #include "benches.h"
 #include "comparison.h"
 #include "platform/qt_print_service.h"
+#include "printing/posting_receipt.h"
 #include "printing/yellow_check.h"
 #include "samples.h"
 
@@ -33,15 +34,25 @@ FormTabs filledTabs() {
     tab.Kozlemeny1 = QStringLiteral("Tagdíj, második félév");
     tab.txtJogcim1 = QStringLiteral("Tagdíj");
     tab.txtJogcim2 = QStringLiteral("2026. év");
+    PostingReceiptTab& receipt = tabs.postingReceipt;
+    receipt.lbSajatNev = QStringLiteral("Kerekerdő Egyesület");
+    receipt.lbSajatCim1 = QStringLiteral("1024 Budapest");
+    receipt.lbSajatCim2 = QStringLiteral("Fő utca 1.");
+    receipt.txErtek = receipt.txUtanvet = QStringLiteral("12345");
+    receipt.txtFeladov1 = receipt.txtFeladov2 = QStringLiteral("számlára fizetendő");
+    receipt.chkAjanlott = receipt.chkTerti = receipt.chkCsomag = receipt.chkHivIrat = receipt.chkErtek = true;
+    receipt.chkSK = receipt.chkPRI = receipt.chkPL = receipt.chkLEGI = receipt.chk5 = receipt.chk6 = true;
     return tabs;
 }
 
-void printChecks(PrintService& service) {
+using Routine = PrintOutcome (*)(const PrintDesk&, const FormTabs&, const ListRows&);
+
+void printForms(Routine print, PrintService& service) {
     PrintDevice device(service);
     QuietPrompts prompts;
     const ProgramFolder& folder = sampleFolder(sampleSize);
-    const PrintOutcome outcome = PrintCsAlloCsekk({device, prompts, folder, false}, filledTabs(), rowsToPrint());
-    if (outcome.pages != pageCount) qFatal("the checks did not print: %s", qPrintable(outcome.trouble));
+    const PrintOutcome outcome = print({device, prompts, folder, false}, filledTabs(), rowsToPrint());
+    if (outcome.pages != pageCount) qFatal("the forms did not print: %s", qPrintable(outcome.trouble));
 }
 
 // The real service, but for a job that it keeps instead of printing it.
@@ -108,12 +119,14 @@ private:
     std::vector<std::vector<BareText>> pages_;
 };
 
-// A thousand checks in two ways. Its fonts stay known from job to job as they do in the window.
-class CheckPrinting {
+// A thousand forms in two ways. Its fonts stay known from job to job as they do in the window.
+class FormPrinting {
 public:
-    double timeOfChecks() {
+    explicit FormPrinting(Routine print) : print_(print) {}
+
+    double timeOfForms() {
         QFile::remove(service().lastPdf());
-        return secondsOf([&] { printChecks(service()); });
+        return secondsOf([&] { printForms(print_, service()); });
     }
 
     double timeOfBareLoop() {
@@ -121,8 +134,8 @@ public:
         return secondsOf([&] { job.print(barePdf()); });
     }
 
-    double bytesOfChecks() {
-        timeOfChecks();
+    double bytesOfForms() {
+        timeOfForms();
         return bytesOfPage(service().lastPdf());
     }
 
@@ -140,13 +153,14 @@ private:
     const BareJob& bareJob() {
         if (bareJob_) return *bareJob_;
         KeepingService keeper(sampleFolder(sampleSize), Devices::pdfOnly);
-        printChecks(keeper);
+        printForms(print_, keeper);
         return bareJob_.emplace(keeper.job);
     }
 
     QString barePdf() const { return scratch_.folder().file(QStringLiteral("bare.pdf")); }
     static double bytesOfPage(const QString& pdf) { return static_cast<double>(QFileInfo(pdf).size()) / pageCount; }
 
+    Routine print_;
     std::optional<QtPrintService> service_;
     std::optional<BareJob> bareJob_;
     ScratchFolder scratch_;
@@ -155,13 +169,21 @@ private:
 } // namespace
 
 void addPrintBenches(Suite& suite) {
-    const auto printing = std::make_shared<CheckPrinting>();
+    const struct {
+        const char* name;
+        Routine print;
+        double timesLimit;
+    } forms[] = {{"1000 yellow checks to PDF", PrintCsAlloCsekk, 1.3},
+                 {"1000 posting receipts, all marks, to PDF", PrintCsAlloFelado, 1.2}};
     const char* const loop = "bare QPdfWriter loop, same texts";
-    suite.add(Comparison{"1000 yellow checks to PDF",
-                         [printing] { return printing->timeOfChecks(); },
-                         loop,
-                         [printing] { return printing->timeOfBareLoop(); },
-                         {Aim::Kind::timesLimit, 1.3}});
-    suite.add(Figure{"bytes a page of these", [printing] { return printing->bytesOfChecks(); }, loop,
-                     [printing] { return printing->bytesOfBareLoop(); }, 1});
+    for (const auto& form : forms) {
+        const auto printing = std::make_shared<FormPrinting>(form.print);
+        suite.add(Comparison{form.name,
+                             [printing] { return printing->timeOfForms(); },
+                             loop,
+                             [printing] { return printing->timeOfBareLoop(); },
+                             {Aim::Kind::timesLimit, form.timesLimit}});
+        suite.add(Figure{"bytes a page of these", [printing] { return printing->bytesOfForms(); }, loop,
+                         [printing] { return printing->bytesOfBareLoop(); }, 1});
+    }
 }

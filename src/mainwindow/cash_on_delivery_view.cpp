@@ -10,7 +10,7 @@ CashOnDeliveryView::CashOnDeliveryView(CashOnDeliveryTab& tab, const FormContext
         page()->setPicture(front.shown() ? QStringLiteral("UtanveteliLap.jpg")
                                          : QStringLiteral("utanvetelihatulja.jpg"));
     });
-    front.text(tab.txUosszeg, "txUosszeg", {9.6, 7.7, 38.4, 5.2}, "Utánvételi összeg")
+    front.text(tab.txUosszeg, "txUosszeg", {9.6, 7.7, 38.4, 5.2}, "Utánvételi összeg (F2)")
         .asAmount()
         .runs(tab, txUosszeg_Change);
     front.text(tab.txUNev, "txUNev", {4.6, 18, 141.4, 3.9}, "Küldemény címzettjének neve");

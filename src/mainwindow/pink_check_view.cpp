@@ -10,7 +10,7 @@ PinkCheckView::PinkCheckView(PinkCheckTab& tab, const FormContext& context) : Fo
     });
     front.label(tab.RtxOsszeg, "RlbOsszeg", {5, 3.8, 50, 5});
     front.label(tab.RtxOsszeg, "lbOsszeg2", {70, 32.8, 58, 5});
-    front.combo(tab.RtxOsszeg, tab.amounts, "RtxOsszeg", {69.4, 3.4, 58, 5.6}, "Összeg")
+    front.combo(tab.RtxOsszeg, tab.amounts, "RtxOsszeg", {69.4, 3.4, 58, 5.6}, "Összeg (F2)")
         .asAmount()
         .runs(tab, RtxOsszeg_Change);
     front.text(tab.RtxNev, "RtxNev", {69.6, 13, 115.4, 3.9}, "Feladó neve");

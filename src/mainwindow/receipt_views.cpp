@@ -54,7 +54,7 @@ PostingReceiptView::PostingReceiptView(PostingReceiptTab& tab, const FormContext
     form.text(tab.txCim3_2, "txCim3_2", {34.6, 60.8, 72.4, 3.9}, "Címzett címe");
     const Row value = valued.text(tab.txErtek, "txErtek", {119.6, 39.8, 36, 4.2}, "Értéknyilvánítás");
     valued.put(named(new QLabel(QStringLiteral("Ft")), "lbFt_0"), {156.6, 39.8, 6, 4.2});
-    form.text(tab.txUtanvet, "txUtanvet", {119.6, 56.8, 36, 4.2}, "Utánvételi összeg");
+    form.text(tab.txUtanvet, "txUtanvet", {119.6, 56.8, 36, 4.2}, "Utánvételi összeg (F2)");
     form.put(named(new QLabel(QStringLiteral("Ft")), "lbFt_1"), {156.6, 56.8, 6, 4.2});
     form.text(tab.txtFeladov1, "txtFeladov1", {133.6, 49.3, 27.4, 3.6}).hint("1. szabad sor");
     form.text(tab.txtFeladov2, "txtFeladov2", {116.6, 53, 44.4, 3.6}).hint("2. szabad sor");

@@ -21,6 +21,7 @@ public:
     void setPicture(const QString& fileName, QSizeF sizeMm);
     void setPicture(const QString& fileName) { setPicture(fileName, sizeMm_); }
     const QString& picture() const { return fileName_; }
+    QSizeF sizeMm() const { return sizeMm_; }
 
     // Puts a child at `mm`; its letters are `letterMm` high (a 10 point letter is 3.5 mm).
     void place(QWidget* child, QRectF mm, double letterMm = 2.75);

@@ -7,7 +7,7 @@ YellowCheckView::YellowCheckView(YellowCheckTab& tab, const FormContext& context
     page()->setPicture(QStringLiteral("SargaCsekk.jpg"));
     const Rows form = rows();
     form.label(tab.txOsszeg, "lbOsszeg", {15, 5.8, 40, 5});
-    form.combo(tab.txOsszeg, tab.amounts, "txOsszeg", {79.4, 5.4, 48, 5.6}, "Összeg")
+    form.combo(tab.txOsszeg, tab.amounts, "txOsszeg", {79.4, 5.4, 48, 5.6}, "Összeg (F2)")
         .asAmount()
         .runs(tab, txOsszeg_Change);
     form.text(tab.txtSzoveg21, "txtSzoveg21", {67.6, 14.8, 68.4, 4.2}, "Összeg betűvel");
@@ -26,7 +26,7 @@ YellowCheckView::YellowCheckView(YellowCheckTab& tab, const FormContext& context
     form.check(tab.chkBefAzonMasolasa, "chkBefAzonMasolasa", {67, 46, 72, 4.4},
                "Befizetőazonosító másolása a jogcím mezőbe.", "Befizetőazonosító másolása a jogcím mezőbe.")
         .runs(tab, chkBefAzonMasolasa_Click);
-    form.check(tab.Check1, "Check1", {139.6, 40.2, 60, 4.2}, "Kereséshez kipipálni!", "Kereséshez kipipálni...");
+    form.check(tab.Check1, "Check1", {139.6, 40.2, 60, 4.2}, "Kereséshez kipipálni!", "Kereséshez kipipálni... (F3)");
     form.text(tab.txNev_2, "txNev_2", {139.6, 45.2, 67.4, 4.2}, "2. Név a boríték címzéshez!")
         .hint("2. név a boríték címzéséhez");
     const Row name = form.text(tab.txNev, "txNev", {139.6, 52, 67.4, 3.9}, "Név").then([this, &tab] {

@@ -5,6 +5,7 @@
 namespace {
 
 constexpr qreal sheetTolerance = 1; // mm
+constexpr qreal feedWidth = 210;    // mm, of an office printer: A4
 
 QSizeF sizeOf(const QPageSize& size) { return size.size(QPageSize::Millimeter); }
 
@@ -21,13 +22,17 @@ QPageSize standardSheet(int paperCode) {
     }
 }
 
+// A narrow form runs through the middle of the feed, and its positions count from the edge of the feed: a page of the
+// form's own width would cut off what stands at its right.
+QPageSize sheetOfForm(const QSizeF& form) {
+    return QPageSize(form.expandedTo({feedWidth, 0}), QPageSize::Millimeter, QString(), QPageSize::ExactMatch);
+}
+
 } // namespace
 
 QPageLayout pageOf(const PageSetup& setup) {
     // A size of the form's own stays portrait even if it is wider than tall: landscape would turn it.
-    const QPageSize size = setup.sizeMm
-                               ? QPageSize(*setup.sizeMm, QPageSize::Millimeter, QString(), QPageSize::ExactMatch)
-                               : standardSheet(setup.paperSize);
+    const QPageSize size = setup.sizeMm ? sheetOfForm(*setup.sizeMm) : standardSheet(setup.paperSize);
     const bool sideways = !setup.sizeMm && setup.orientation == 2;
     QPageLayout page(size, sideways ? QPageLayout::Landscape : QPageLayout::Portrait, QMarginsF(),
                      QPageLayout::Millimeter);

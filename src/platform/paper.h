@@ -11,7 +11,7 @@ struct PaperOffer {
     bool anySize = true;
 };
 
-// The page as it is read, full sheet without margins.
+// The page as it is read, full sheet without margins. A form's own size gets at least the width of the feed.
 QPageLayout pageOf(const PageSetup& setup);
 
 // The sheet to print `wanted` on: itself where the device takes it, else the smallest larger one, so that the form

@@ -61,7 +61,8 @@ TEST_F(WindowForms, AnAmountThatItsWordsCantAgreeWithIsShown) {
     const struct {
         int tab;
         const char *box, *tooltip;
-    } boxes[] = {{0, "txOsszeg", "Összeg"}, {6, "RtxOsszeg", "Összeg"}, {7, "txUosszeg", "Utánvételi összeg"}};
+    } boxes[] = {
+        {0, "txOsszeg", "Összeg (F2)"}, {6, "RtxOsszeg", "Összeg (F2)"}, {7, "txUosszeg", "Utánvételi összeg (F2)"}};
     for (const auto& row : boxes) {
         goTo(row.tab);
         auto& box = find(row.box);

@@ -86,7 +86,7 @@ TEST(JobPainter, pagesHaveTheSizeOfTheForm) {
     const int cases[][6] = {
         {1, 9, 0, 0, 210, 297},      {2, 9, 0, 0, 297, 210},      {1, 27, 0, 0, 110, 220},
         {2, 27, 0, 0, 220, 110},     {1, 28, 0, 0, 162, 229},     {2, 28, 0, 0, 229, 162},
-        {2, 27, 210, 105, 210, 105}, {1, 27, 105, 165, 105, 165}, {1, 9, 165, 120, 165, 120},
+        {2, 27, 210, 105, 210, 105}, {1, 27, 105, 165, 210, 165}, {1, 9, 165, 120, 210, 120},
     };
     PrintJob job;
     for (const auto& c : cases) {
@@ -174,7 +174,9 @@ TEST(JobPainter, aDeviceThatDoesNotBeginIsAnError) {
 TEST(Paper, aSizeThatTheDeviceLacksTakesTheNextLargerSheet) {
     const QList<QPageSize> office{QPageSize(QPageSize::A3), QPageSize(QPageSize::Letter), QPageSize(QPageSize::A4),
                                   QPageSize(QPageSize::A5), QPageSize(QPageSize::EnvelopeDL)};
-    const auto form = [](double width, double height) { return pageOf({1, 9, QSizeF(width, height)}).pageSize(); };
+    const auto form = [](double width, double height) {
+        return QPageSize(QSizeF(width, height), QPageSize::Millimeter, QString(), QPageSize::ExactMatch);
+    };
     const std::tuple<QPageSize, PaperOffer, QPageSize> cases[] = {
         {form(210, 105), {office, true}, form(210, 105)},
         {form(210, 105), {office, false}, QPageSize(QPageSize::A4)},

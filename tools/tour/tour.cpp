@@ -1,5 +1,7 @@
 #include "tour.h"
 
+#include "mainwindow/stationery_page.h"
+#include "overlay.h"
 #include "records/client_database.h"
 
 #include <QAction>
@@ -43,7 +45,7 @@ std::optional<PrinterChoice> TourPrompts::choosePrinter(const QStringList&, int,
 Tour::Tour(const QString& delivered, const QString& results)
     : results_(results)
     , folder_(freshFolder(delivered))
-    , printing_(folder_, Devices::pdfOnly) {
+    , printing_(folder_) {
     prompts_.csv = folder_.file(QStringLiteral("mintaugyfelek.csv"));
 }
 
@@ -72,6 +74,7 @@ int Tour::run() {
     typeTexts();
     printForms("cmdPrint", QStringLiteral("egyes"), 1);
     printBatches();
+    printLabels();
     openSetup(0);
     openSetup(6);
     closeAndReopen();
@@ -132,6 +135,14 @@ void Tour::print(const char* button, const QString& form, int pages) {
     check(QFile::copy(printing_.lastPdf(), target), form + QStringLiteral(".pdf"));
 }
 
+void Tour::layOverStationery(const QString& form, QPointF corner) {
+    const auto* tab = window_->findChild<QTabWidget*>(QStringLiteral("SSTab1"))->currentWidget();
+    const auto* page = tab->findChild<StationeryPage*>();
+    const QImage laid =
+        layOver(printing_.job.pages.front(), QImage(folder_.file(page->picture())), {corner, page->sizeMm()}, fonts_);
+    check(laid.save(results_ + u'/' + form + QStringLiteral(".png")), form + QStringLiteral(" over the stationery"));
+}
+
 void Tour::importClients() {
     window_->menuBar()->findChild<QAction*>(QStringLiteral("mnuAdatCsvbol"))->trigger();
     check(clientCount(folder_) == 200, QStringLiteral("200 clients are in"));
@@ -143,25 +154,27 @@ void Tour::importClients() {
 namespace {
 
 // A form of the window, and the controls that turn it to its other sides and variants, the last of which is the first
-// look again.
+// look again. Where it lies on the sheet of either feed (mm) is what the numbers of its print routines add up to.
 struct TourForm {
     int tab;
     const char* name;
+    QPointF upright, sideways;
     struct Variant {
         const char *turn, *name;
+        std::optional<QPointF> upright = {};
     };
     std::vector<Variant> variants;
 };
 
 const std::vector<TourForm> forms = {
-    {0, "sarga-csekk", {}},
-    {1, "tertiveveny", {{"opBelfold_1", "kulfoldi"}, {"opBelfold_0", ""}}},
-    {2, "feladoveveny", {}},
-    {3, "boritek", {{"OpB2", "c5"}, {"OpB3", "c56"}, {"OpB1", ""}}},
-    {4, "etikett", {}},
-    {5, "terti-irathoz", {}},
-    {6, "rozsaszin-csekk", {{"cmdOldalCsere", "hatul"}, {"cmdOldalCsere", ""}}},
-    {7, "utanveteli-lap", {{"cmdUtanvetOdalCsere", "hatul"}, {"cmdUtanvetOdalCsere", ""}}},
+    {0, "sarga-csekk", {8, 2}, {0, 0}, {}},
+    {1, "tertiveveny", {128, 49}, {20, 0}, {{"opBelfold_1", "kulfoldi"}, {"opBelfold_0", ""}}},
+    {2, "feladoveveny", {52, -6}, {20, 0}, {}},
+    {3, "boritek", {66, 20}, {0, 0}, {{"OpB2", "c5", {{0, 0}}}, {"OpB3", "c56", {{0, 25}}}, {"OpB1", ""}}},
+    {4, "etikett", {}, {}, {}},
+    {5, "terti-irathoz", {55, 0}, {20, -3}, {}},
+    {6, "rozsaszin-csekk", {8, 2}, {0, 0}, {{"cmdOldalCsere", "hatul"}, {"cmdOldalCsere", ""}}},
+    {7, "utanveteli-lap", {65, -1}, {25, -4}, {{"cmdUtanvetOdalCsere", "hatul"}, {"cmdUtanvetOdalCsere", ""}}},
 };
 
 QString named(const TourForm& form, const QString& what, const char* variant) {
@@ -218,14 +231,17 @@ void Tour::printForms(const char* button, const QString& what, int pages) {
         for (const auto& [feed, feedName] : {std::pair{"OpOrientacioFekvo", "fekvo"}, {"OpOrientacioAllo", "allo"}}) {
             showTab(form.tab);
             click(feed);
-            const auto printNow = [&, feedText = QLatin1String(feedName)](const char* variant) {
+            const bool upright = feedName == std::string("allo");
+            const auto printNow = [&, feedText = QLatin1String(feedName)](const TourForm::Variant& variant) {
                 if (pages > 1) selectBatch(pages); // showing a tab may take the batch button away
-                print(button, named(form, what + u'-' + feedText, variant), pages);
+                const QString name = named(form, what + u'-' + feedText, variant.name);
+                print(button, name, pages);
+                layOverStationery(name, upright ? variant.upright.value_or(form.upright) : form.sideways);
             };
-            printNow("");
+            printNow({"", ""});
             for (const TourForm::Variant& variant : form.variants) {
                 click(variant.turn);
-                if (*variant.name != '\0') printNow(variant.name);
+                if (*variant.name != '\0') printNow(variant);
             }
         }
     }
@@ -242,6 +258,22 @@ void Tour::printBatches() {
     selectBatch(clients);
     shoot(QStringLiteral("05-csoportos"));
     printForms("cmdCsPrint", QStringLiteral("csoportos"), clients);
+}
+
+// A sheet for the list, one for a client put onto a place by hand, and one with a text of its own.
+void Tour::printLabels() {
+    showTab(labelTab);
+    selectBatch(14);
+    print("cmdPrint", QStringLiteral("etikett-lista"), 2);
+    clickRow(2);
+    click("chkCimke1_3");
+    shoot(QStringLiteral("05-etikett-cella"));
+    print("cmdPrint", QStringLiteral("etikett-cella"), 1);
+    click("chkEgyediCimke");
+    type("txEgyediCimke_0", QStringLiteral("Egyedi szöveg"));
+    shoot(QStringLiteral("05-etikett-egyedi"));
+    print("cmdPrint", QStringLiteral("etikett-egyedi"), 1);
+    click("chkEgyediCimke");
 }
 
 void Tour::openSetup(int tab) {

@@ -21,8 +21,21 @@ public:
                                                const QString& summary) override;
 };
 
+// The real service, which also keeps the job that it printed last.
+class TourPrinting : public QtPrintService {
+public:
+    explicit TourPrinting(const ProgramFolder& folder) : QtPrintService(folder, Devices::pdfOnly) {}
+    PrintJob job;
+
+    void deliver(const PrintJob& delivered, int printer) override {
+        QtPrintService::deliver(delivered, printer);
+        job = delivered;
+    }
+};
+
 // Drives the real window through the main road on a fresh program folder: import, click, type, print, batch, setup.
-// Screenshots and PDFs go to the results folder. A step that doesn't do what it should is counted and told.
+// Screenshots, PDFs and their first pages laid over the drawn stationery go to the results folder. A step that doesn't
+// do what it should is counted and told.
 class Tour {
 public:
     // `results` is made; the program folder is built beside the results as a copy of `delivered`.
@@ -42,16 +55,19 @@ private:
 
     void importClients();
     void walkTabs();
+    void layOverStationery(const QString& form, QPointF corner);
     void typeTexts();
     void printForms(const char* button, const QString& what, int pages);
     void selectBatch(int clients);
     void printBatches();
+    void printLabels();
     void openSetup(int tab);
     void closeAndReopen();
 
     QString results_;
     ProgramFolder folder_;
-    QtPrintService printing_;
+    TourPrinting printing_;
+    FontBook fonts_;
     TourPrompts prompts_;
     std::unique_ptr<frmTarlimo> window_;
     int failures_ = 0;
