@@ -25,7 +25,8 @@ TEST(SetupDialog, TypedTextsAreStoredByTheirLeadingNumber) {
     // The box, what is typed, and what it shows after the save and at the next opening.
     const QStringList rows =
         u"Textosszeg_x1=12.3456 mm=12.3456;Textosszeg_x1=12,5=12.5;Textosszeg_x1=abc=0;Textosszeg_x1==0;"
-        "Textosszeg_x1=-4=-4;TextVkorrekcio=-3=-3;TextBetuMeret2=10,5=11;TextBetuMeret2=70000=32767;"
+        "Textosszeg_x1=-4=-4;Textosszeg_x1=1e9=1;Textosszeg_x1= 12 "
+        "=12;TextVkorrekcio=-3=-3;TextBetuMeret2=10,5=11;TextBetuMeret2=70000=32767;"
         "ComboBetuTipus1=Egyedi Betű=Egyedi Betű;ComboBetuTipus2=Huszonöt betűnél hosszabb név=Huszonöt betűnél "
         "hosszabb;txtFizHat=Határidő: tizenöt felett=Határidő: tizen;"
         "chkFizHat=1=1"_s.split(u';');
