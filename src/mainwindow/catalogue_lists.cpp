@@ -1,24 +1,10 @@
 #include "mainwindow/catalogue_lists.h"
 
-#include "records/record_file.h"
-#include "records/reference_records.h"
-
-namespace {
-
-template<class Entry>
-std::vector<Entry> entriesOf(const ProgramFolder& folder) {
-    const QByteArray bytes = RecordFile<Entry>(folder).readAll();
-    std::vector<Entry> entries(static_cast<std::size_t>(bytes.size()) / sizeof(Entry));
-    if (!entries.empty())
-        std::memcpy(static_cast<void*>(entries.data()), bytes.constData(), entries.size() * sizeof(Entry));
-    return entries;
-}
-
-} // namespace
+#include "records/catalogue.h"
 
 QStringList titleList(const ProgramFolder& folder) {
     QStringList titles;
-    for (const TitleEntry& entry : entriesOf<TitleEntry>(folder))
+    for (const CatalogueEntry& entry : readEntries(folder, firstTitleLines))
         titles << entry.Szoveg.trimmed();
     return titles;
 }
@@ -31,7 +17,7 @@ QLocale dateLocale() {
 QStringList secondTitleList(const ProgramFolder& folder, QDate today, const QLocale& locale) {
     constexpr int daysToPay = 10;
     QStringList titles;
-    for (const SecondTitleEntry& entry : entriesOf<SecondTitleEntry>(folder)) {
+    for (const CatalogueEntry& entry : readEntries(folder, secondTitleLines)) {
         QString title = entry.Szoveg.trimmed();
         if (title == QStringLiteral("Fiz. hat.:"))
             title += locale.toString(today.addDays(daysToPay), QLocale::ShortFormat);
@@ -41,8 +27,8 @@ QStringList secondTitleList(const ProgramFolder& folder, QDate today, const QLoc
 }
 
 QStringList noticeList(const ProgramFolder& folder) {
-    QStringList notices{QString()};
-    for (const NoticeEntry& entry : entriesOf<NoticeEntry>(folder))
-        notices << entry.Szoveg.stored();
-    return notices;
+    QStringList texts{QString()};
+    for (const CatalogueEntry& entry : readEntries(folder, notices))
+        texts << entry.Szoveg.stored();
+    return texts;
 }

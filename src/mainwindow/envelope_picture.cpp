@@ -1,6 +1,5 @@
 #include "mainwindow/envelope_picture.h"
 
-#include <QImageReader>
 #include <QPainter>
 
 #include <algorithm>
@@ -19,26 +18,20 @@ QString wholeMm(double mm) { return qRound(mm) == 0 ? QString() : QString::numbe
 
 Cur centimetres(double twips) { return Cur::fromTenThousandths(qRound64(twips / perCentimetre * 10000)); }
 
-// As it prints: turned as a camera says, and on white where it is transparent, which a printer doesn't know.
+// As it prints: on white where it is transparent, which a printer doesn't know. A camera's turn isn't looked at.
 QImage loadedPicture(const QString& path) {
     if (path.isEmpty()) return {};
-    QImageReader reader(path);
-    reader.setAutoTransform(true);
-    const QImage image = reader.read();
+    QImage image(path);
     if (!image.hasAlphaChannel()) return image;
     QImage flat(image.size(), QImage::Format_RGB32);
-    flat.setDotsPerMeterX(image.dotsPerMeterX());
-    flat.setDotsPerMeterY(image.dotsPerMeterY());
     flat.fill(Qt::white);
     QPainter(&flat).drawImage(QPoint(), image);
     return flat;
 }
 
-// In hundredths of a millimetre, which the box compares with its twips as bare numbers.
-QSizeF ownSize(const QImage& picture) {
-    return {100000.0 * picture.width() / std::max(1, picture.dotsPerMeterX()),
-            100000.0 * picture.height() / std::max(1, picture.dotsPerMeterY())};
-}
+// In hundredths of a millimetre at the screen's 96 dots to the inch, whatever the file says; the box compares them with
+// its twips as bare numbers.
+QSizeF ownSize(const QImage& picture) { return QSizeF(picture.size()) * 2540 / 96; }
 
 // A picture larger than its square box shrinks into it; a smaller one keeps its own size, and the box its.
 void fitPicture(EnvelopeTab& tab) {

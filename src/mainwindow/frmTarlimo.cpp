@@ -194,7 +194,9 @@ void frmTarlimo::clientsChanged(const ClientsChanged& change) {
 
 void frmTarlimo::showSetup() {
     const QByteArray before = SSTab1_->shownRecord();
-    frmSetup(folder_, services_.prompts, services_.printing.fonts(), SSTab1_->row().setupOldal, this).exec();
+    const DeviceFonts fonts{services_.printing.fonts(),
+                            [this](const QString& name) { return services_.printing.knowsFont(name); }};
+    frmSetup(folder_, services_.prompts, fonts, SSTab1_->row().setupOldal, this).exec();
     activate();
     if (SSTab1_->shownRecord() != before) SSTab1_->reload();
 }

@@ -105,6 +105,17 @@ QStringList FontBook::names() const {
     return all;
 }
 
+void FontBook::substituteOnScreen() const {
+    const auto substitute = [this](const QString& name) {
+        const std::optional<QString> family = familyFor(name);
+        if (family && *family != name) QFont::insertSubstitution(name, *family);
+    };
+    for (const QLatin1StringView name : oldNames)
+        substitute(name);
+    for (const Substitute& row : substitutes)
+        substitute(row.asked);
+}
+
 const FontBook::Face& FontBook::face(const Font& font) {
     const auto known =
         std::find_if(faces_.begin(), faces_.end(), [&](const Entry& entry) { return entry.key == font; });

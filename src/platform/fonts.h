@@ -31,6 +31,9 @@ public:
     // served, in alphabetical order.
     QStringList names() const;
 
+    // Makes the screen show old names as they print. Holds for the whole process.
+    void substituteOnScreen() const;
+
     // Font and metrics in paper units.
     struct Face {
         QFont font;

@@ -13,6 +13,7 @@ QtPrintService::QtPrintService(const ProgramFolder& folder, Devices devices)
     , devices_(devices) {
     if (devices == Devices::system) printers_ = QPrinterInfo::availablePrinterNames();
     printers_.append(u"PDF fájl"_s);
+    fonts_.substituteOnScreen();
 }
 
 QStringList QtPrintService::printers() { return printers_; }

@@ -13,6 +13,8 @@ class QtPrompts : public Prompts {
 public:
     // File dialogs open in `folder` first, then where the user was last.
     explicit QtPrompts(const QString& folder = {});
+    QtPrompts(const QtPrompts&) = delete;
+    QtPrompts& operator=(const QtPrompts&) = delete;
     ~QtPrompts() override;
 
     void tell(const Message& message) override;

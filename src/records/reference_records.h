@@ -4,21 +4,6 @@
 
 #include <cstddef>
 
-// One entry of a text catalogue; the record number is its place in the list.
-struct CatalogueEntry {
-    Text<25> Szoveg;
-};
-struct TitleEntry : CatalogueEntry { // first line of the payment title
-    static constexpr auto fileName = "Jogcimek.dat";
-};
-struct SecondTitleEntry : CatalogueEntry {
-    static constexpr auto fileName = "Jogcimek2.dat";
-};
-struct NoticeEntry : CatalogueEntry {
-    static constexpr auto fileName = "Kozlem.dat";
-};
-static_assert(sizeof(TitleEntry) == 25 && sizeof(SecondTitleEntry) == 25 && sizeof(NoticeEntry) == 25);
-
 // One settlement of the postcode table.
 struct SettlementRec {
     static constexpr auto fileName = "Telepulesek.dat";

@@ -21,9 +21,9 @@ protected:
         stored.Width = Cur(2000);
         stored.Height = Cur(1000);
     }
-    // Of that size in hundredths of a millimetre.
+    // In pixels, of 26.46 hundredths of a millimetre each, whatever the file says of their density.
     void savePicture(int width, int height) const {
-        QImage image(width / 10, height / 10, QImage::Format_RGB32);
+        QImage image(width, height, QImage::Format_RGB32);
         image.setDotsPerMeterX(10000);
         image.setDotsPerMeterY(10000);
         image.fill(Qt::red);
@@ -37,13 +37,13 @@ protected:
 
 TEST_F(EnvelopePicture, ShrinksIntoItsStoredBox) {
     const struct {
-        int width, height;                // of the file
+        int width, height;                // of the file, pixels
         const char *kepSzeles, *kepMagas; // cm
         QSizeF box;                       // twips
-    } pictures[] = {{20000, 10000, "3.6832", "1.8416", {2000, 1000}},
-                    {10000, 20000, "1.8416", "3.6832", {1000, 2000}},
-                    {8000, 8000, "3.6832", "3.6832", {2000, 2000}},
-                    {1000, 500, "1.8416", "0.9208", {2000, 2000}}}; // small enough as it is
+    } pictures[] = {{800, 400, "3.6832", "1.8416", {2000, 1000}},
+                    {400, 800, "1.8416", "3.6832", {1000, 2000}},
+                    {320, 320, "3.6832", "3.6832", {2000, 2000}},
+                    {36, 18, "1.7541", "0.8771", {2000, 2000}}}; // small enough as it is
     for (const auto& picture : pictures) {
         savePicture(picture.width, picture.height);
         restore();

@@ -3,8 +3,8 @@
 #include "mainwindow/envelope_label_rules.h"
 #include "mainwindow/label_cells.h"
 #include "mainwindow/receipt_rules.h"
+#include "records/catalogue.h"
 #include "records/record_file.h"
-#include "records/reference_records.h"
 #include "support/test_folder.h"
 
 #include <gtest/gtest.h>
@@ -153,13 +153,6 @@ TEST(LabelRules, PreviewDropsAPostcodeThatIsNoNumber) {
     }
 }
 
-template<class Entry>
-void storeEntry(const TestFolder& folder, qint64 k, QStringView text) {
-    auto entry = zeroRecord<Entry>();
-    entry.Szoveg.set(text);
-    folder.store(entry, k);
-}
-
 TEST(CatalogueLists, OfferTheEntriesAndTheDeadline) {
     const TestFolder folder;
     const QLocale hungarian(QLocale::Hungarian, QLocale::Hungary);
@@ -170,10 +163,13 @@ TEST(CatalogueLists, OfferTheEntriesAndTheDeadline) {
     EXPECT_TRUE(folder.has(QStringLiteral("Jogcimek.dat")) && folder.has(QStringLiteral("Jogcimek2.dat")) &&
                 folder.has(QStringLiteral("Kozlem.dat")));
 
-    storeEntry<TitleEntry>(folder, 1, u"Tagdíj");
-    storeEntry<SecondTitleEntry>(folder, 1, u"Fiz. hat.:");
-    storeEntry<SecondTitleEntry>(folder, 2, u"Fiz. hat.: azonnal");
-    storeEntry<NoticeEntry>(folder, 1, u"Köszönjük");
+    const auto appendTo = [&](const Catalogue& catalogue, QStringView text) {
+        EXPECT_TRUE(appendEntry(folder, catalogue, text));
+    };
+    appendTo(firstTitleLines, u"Tagdíj");
+    appendTo(secondTitleLines, u"Fiz. hat.:");
+    appendTo(secondTitleLines, u"Fiz. hat.: azonnal");
+    appendTo(notices, u"Köszönjük");
     EXPECT_EQ(joined(titleList(folder)), "Tagdíj");
     EXPECT_EQ(joined(secondTitleList(folder, today, hungarian)), "Fiz. hat.:2024. 03. 06.|Fiz. hat.: azonnal");
     EXPECT_EQ(joined(noticeList(folder)), "|Köszönjük~25");

@@ -1,4 +1,4 @@
-#include "records/reference_records.h"
+#include "records/catalogue.h"
 #include "settings/envelope_label_settings.h"
 #include "settings/other_settings.h"
 #include "window_fixture.h"
@@ -141,7 +141,7 @@ TEST_F(WindowStart, OwnWindowsEmptyNoticeAndTitlesOnReturn) {
     for (const char* menuEntry : {"mnuSetup", "mnuAbout"}) {
         for (const char* box : {"Kozlemeny1", "txtJogcim1", "txtJogcim2", "Kozlemeny2"})
             type(box, QStringLiteral("szöveg"));
-        choose(menuEntry, [&](const QWidget&) { files.store(zeroRecord<NoticeEntry>(), ++entries); });
+        choose(menuEntry, [&](const QWidget&) { entries += appendEntry(files, notices, u"szöveg") ? 1 : 0; });
         for (const char* box : {"Kozlemeny1", "txtJogcim1", "txtJogcim2"})
             EXPECT_EQ(text(box), "") << menuEntry << ' ' << box;
         EXPECT_EQ(text("Kozlemeny2"), "szöveg");

@@ -1,8 +1,8 @@
 #include "settings/check_layouts.h"
 #include "settings/general_settings.h"
+#include "settings/setup/font_box.h"
 #include "setup_fixture.h"
 
-#include <QDir>
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
@@ -12,10 +12,12 @@ using namespace Qt::Literals::StringLiterals;
 
 TEST(SetupDialog, OpensOnThePageAskedForOrTheFirst) {
     const TestFolder folder;
-    for (const int setupOldal : {0, 5, 3, 6, -1}) {
+    const QStringList captions =
+        u"Csekk|Tértivevény|Feladóvevény|Boríték|Térti Irathoz|Rózsaszín csekk|Utánvételi lap"_s.split(u'|');
+    for (const int setupOldal : {0, 1, 2, 3, 4, 5, 6, -1, 7}) {
         OpenedSetup setup(folder, setupOldal);
         auto& tabs = setup.widget<QTabWidget>("SSTab1");
-        EXPECT_EQ(tabs.tabText(tabs.currentIndex()), setupOldal == 5 ? u"Rózsaszín csekk"_s : u"Csekk"_s) << setupOldal;
+        EXPECT_EQ(tabs.tabText(tabs.currentIndex()), captions.value(setupOldal, captions[0])) << setupOldal;
     }
 }
 
@@ -23,7 +25,8 @@ TEST(SetupDialog, TypedTextsAreStoredByTheirLeadingNumber) {
     // The box, what is typed, and what it shows after the save and at the next opening.
     const QStringList rows =
         u"Textosszeg_x1=12.3456 mm=12.3456;Textosszeg_x1=12,5=12.5;Textosszeg_x1=abc=0;Textosszeg_x1==0;"
-        "Textosszeg_x1=-4=-4;TextVkorrekcio=-3=-3;TextBetuMeret2=10,5=11;TextBetuMeret2=70000=32767;"
+        "Textosszeg_x1=-4=-4;Textosszeg_x1=1e9=1;Textosszeg_x1= 12 "
+        "=12;TextVkorrekcio=-3=-3;TextBetuMeret2=10,5=11;TextBetuMeret2=70000=32767;"
         "ComboBetuTipus1=Egyedi Betű=Egyedi Betű;ComboBetuTipus2=Huszonöt betűnél hosszabb név=Huszonöt betűnél "
         "hosszabb;txtFizHat=Határidő: tizenöt felett=Határidő: tizen;"
         "chkFizHat=1=1"_s.split(u';');
@@ -59,31 +62,69 @@ TEST(SetupDialog, ABoxWithoutANumberIsMarkedWhileItIsTyped) {
     }
 }
 
-TEST(SetupDialog, TheTimeOfASaveStandsBesideItsButtonUntilABoxIsEdited) {
-    const std::tuple<const char*, const char*, bool> rows[] = {
-        {"Command1", "chkFizHat", false},
-        {"Command2", "ComboBetuTipus1", false},
-        {"cmdRCsekkMentes", "RcsekkTextosszeg_x1", false},
-        {"cmdRcsekkCimzettMent", "txRcsekkNev", true},
+TEST(SetupDialog, APageTellsWhatIsNotSavedAndWhenItWasSaved) {
+    struct Row {
+        int page;
+        const char *button, *box, *frame; // the frame that the button stands in, if it does
     };
-    for (const auto& [button, box, inFrame] : rows) {
+    const Row rows[] = {
+        {0, "Command1", "chkFizHat", ""},
+        {0, "Command2", "ComboBetuTipus1", ""},
+        {1, "cmdTertiMentes", "txtTertiVisszakuldNev", ""},
+        {3, "cmdBoritekMeretSave_0", "Text1_0", "Frame4"},
+        {3, "cmdBoritekFeladoSave", "txtBoritekFeladoNev", "Frame2_1"},
+        {5, "cmdRCsekkMentes", "RcsekkTextosszeg_x1", ""},
+        {5, "cmdRcsekkCimzettMent", "txRcsekkNev", "Frame1_1"},
+        {6, "cmdULapMentes", "opULapCizett_0", ""},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.button);
         const TestFolder folder;
         OpenedSetup setup(folder);
-        const auto notes = [&setup] {
-            QStringList texts;
+        const auto told = [&] { // with a star for the mark on the tab
+            QString texts = setup.widget<QTabWidget>("SSTab1").tabText(row.page).endsWith(u" *") ? u"* "_s : u""_s;
             for (const QLabel* note : setup.dialog.findChildren<QLabel*>(u"lbElmentve"_s))
-                if (!note->text().isEmpty()) texts << note->parentWidget()->objectName() + note->text();
-            return texts.join(u';');
+                if (!note->text().isEmpty()) texts += note->parentWidget()->objectName() + note->text();
+            return texts;
         };
-        setup.type(box, u"1"_s);
-        setup.press(button, Answer::no);
-        EXPECT_EQ(notes(), QString()) << button;
-        setup.press(button, Answer::yes);
-        static const QRegularExpression saved(u"^(Frame1_1)?Elmentve \\d\\d:\\d\\d:\\d\\d$"_s);
-        EXPECT_TRUE(saved.match(notes()).hasMatch()) << button << notes().toStdString();
-        EXPECT_EQ(notes().startsWith(u"Frame1_1"), inFrame);
-        setup.type(box, u"0"_s);
-        EXPECT_EQ(notes(), QString()) << button;
+        const QString frame = QString::fromLatin1(row.frame);
+        const QString unsaved = u"* "_s + frame + u"Nem mentett módosítások"_s;
+        const QString stored = setup.text(row.box);
+        EXPECT_EQ(told(), QString());
+        setup.type(row.box, u"1"_s);
+        EXPECT_EQ(told(), unsaved);
+        if (row.page < 6) { // an option isn't taken back by itself
+            setup.type(row.box, stored);
+            EXPECT_EQ(told(), QString());
+            setup.type(row.box, u"1"_s);
+        }
+        if (row.page != 3) {
+            setup.press(row.button, Answer::no);
+            EXPECT_EQ(told(), unsaved);
+            setup.prompts.answers.push_back(Answer::yes);
+        }
+        setup.widget<QPushButton>(row.button).click();
+        const QRegularExpression saved(u'^' + frame + u"Elmentve \\d\\d:\\d\\d:\\d\\d$"_s);
+        EXPECT_TRUE(saved.match(told()).hasMatch()) << told().toStdString();
+        setup.type(row.box, u"0"_s);
+        setup.type("opULapCizett_1", u"1"_s);
+        EXPECT_TRUE(told().startsWith(unsaved));
+    }
+}
+
+TEST(SetupDialog, FontsThatTheDeviceDoesNotKnowAreMarkedAndStay) {
+    const TestFolder folder;
+    OpenedSetup setup(folder);
+    auto& box = setup.widget<FontBox>("ComboBetuTipus1");
+    for (const bool known : {true, false, true}) {
+        const QString name = known ? u"Times New Roman CE"_s : u"Sosem Volt Betű"_s;
+        setup.type("ComboBetuTipus1", name);
+        EXPECT_EQ(box.lineEdit()->toolTip(), known ? QString() : u"A nyomtató nem ismeri ezt a betűtípust"_s);
+        EXPECT_EQ(box.sample()->font().family(), name);
+        setup.press("Command1", Answer::yes);
+        OpenedSetup again(folder);
+        EXPECT_EQ(again.text("ComboBetuTipus1"), name);
+        EXPECT_EQ(again.widget<FontBox>("ComboBetuTipus1").sample()->font().family(), name);
     }
 }
 
@@ -168,20 +209,5 @@ TEST(SetupDialog, PrintBoxesShowTheStoredFlagsUnlessNobodyEverChose) {
             EXPECT_EQ(bool{set.chkNyomtatando[6]}, keep);
             EXPECT_EQ(bool{set.chkNyomtatando[7]}, expected[7] == '1');
         }
-    }
-}
-
-TEST(SetupDialog, TellsWhenARecordCannotBeWritten) {
-    for (const char* button : {"Command1", "Command2"}) {
-        const TestFolder folder;
-        QDir().mkdir(folder.folder().file(u"Set.dat"_s));
-        OpenedSetup setup(folder);
-        setup.type("Textosszeg_x1", u"99"_s);
-        setup.press(button, Answer::yes);
-        ASSERT_EQ(setup.prompts.told.size(), 1U) << button;
-        EXPECT_EQ(setup.prompts.told[0].icon, Icon::critical);
-        EXPECT_EQ(setup.prompts.told[0].title, u"Hiba"_s);
-        EXPECT_EQ(setup.widget<QLabel>("lbElmentve").text(), QString());
-        EXPECT_EQ(setup.text("Textosszeg_x1"), u"99"_s);
     }
 }

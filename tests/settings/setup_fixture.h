@@ -39,7 +39,8 @@ public:
     explicit OpenedSetup(const TestFolder& folder, int setupOldal = 0) : dialog(folder, prompts, fonts, setupOldal) {}
 
     ScriptedPrompts prompts;
-    const QStringList fonts{QStringLiteral("Arial CE"), QStringLiteral("Times New Roman CE")};
+    const DeviceFonts fonts{{QStringLiteral("Arial CE"), QStringLiteral("Times New Roman CE")},
+                            [this](const QString& name) { return fonts.names.contains(name); }};
     frmSetup dialog;
 
     template<class Widget = QWidget>

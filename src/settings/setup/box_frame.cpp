@@ -19,6 +19,15 @@ QLabel* makeLabel(const BoxLook& look, QWidget* box) {
     return label;
 }
 
+// The box, and beside it what belongs to its kind.
+QLayout* withCompanion(const BoxLook& look, QWidget* box) {
+    auto* line = new QHBoxLayout;
+    line->addWidget(box);
+    if (look.kind->companion) line->addWidget(look.kind->companion(*box), 1);
+    if (!look.kind->isWide) line->addStretch();
+    return line;
+}
+
 // A hidden widget keeps its room, so that nothing jumps.
 void showWhile(const QAbstractButton& button, QWidget* widget) {
     QSizePolicy policy = widget->sizePolicy();
@@ -37,7 +46,7 @@ BoxFrame::BoxFrame(const FrameLook& look)
     if (look.name) named(this, look.name);
 }
 
-std::vector<QWidget*> BoxFrame::addBoxes(const std::vector<BoxLook>& looks, const QStringList& fonts) {
+std::vector<QWidget*> BoxFrame::addBoxes(const std::vector<BoxLook>& looks, const DeviceFonts& fonts) {
     std::vector<QWidget*> boxes;
     const int rows = (static_cast<int>(looks.size()) + columns_ - 1) / columns_;
     const int first = freshRows(rows);
@@ -67,7 +76,7 @@ void BoxFrame::addBox(const BoxLook& look, QWidget* box, int row, int column) {
     QLabel* label = makeLabel(look, box);
     if (shownWhile) showWhile(*shownWhile, label);
     grid_->addWidget(label, row, 3 * column);
-    grid_->addWidget(box, row, 3 * column + 1);
+    grid_->addLayout(withCompanion(look, box), row, 3 * column + 1);
     if (look.kind->isWide) grid_->setColumnStretch(3 * column + 1, 1);
 }
 
@@ -78,7 +87,7 @@ void BoxFrame::addNote(const char16_t* text) {
     grid_->addWidget(note, freshRows(1), 0, 1, -1);
 }
 
-void BoxFrame::addFoot(QLayout* foot) { grid_->addLayout(foot, freshRows(1), 0, 1, -1); }
+void BoxFrame::addRow(QLayout* row) { grid_->addLayout(row, freshRows(1), 0, 1, -1); }
 
 // The first of `rows` rows at the foot of the grid; the last row of all takes the room that is left over.
 int BoxFrame::freshRows(int rows) {

@@ -22,9 +22,10 @@ public:
     explicit BoxFrame(const FrameLook& look);
 
     // The boxes with their labels; answers them in the order of the rows.
-    std::vector<QWidget*> addBoxes(const std::vector<BoxLook>& looks, const QStringList& fonts);
+    std::vector<QWidget*> addBoxes(const std::vector<BoxLook>& looks, const DeviceFonts& fonts);
     void addNote(const char16_t* text);
-    void addFoot(QLayout* foot);
+    // Over the whole width.
+    void addRow(QLayout* row);
 
 private:
     void addBox(const BoxLook& look, QWidget* box, int row, int column);

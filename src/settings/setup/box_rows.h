@@ -13,7 +13,7 @@
 // What a box holds is always a text; a tick or an option is "1" or "0".
 
 struct BoxKind; // in setting_boxes.h
-extern const BoxKind numberBox, textBox, fontBox, tickBox, optionBox;
+extern const BoxKind numberBox, wholeBox, textBox, fontBox, tickBox, optionBox;
 
 // What the default button does with a box.
 enum class Restore {

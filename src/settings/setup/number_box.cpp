@@ -1,6 +1,5 @@
 #include "settings/setup/number_box.h"
 
-#include <QEvent>
 #include <QRegularExpression>
 #include <QValidator>
 
@@ -21,37 +20,24 @@ bool beginsWithNumber(const QString& text) {
     return number.match(text).hasMatch();
 }
 
-// A tint of red that the letters stand out from, be the palette light or dark.
-QColor warningTint(const QColor& base) {
-    const auto mixed = [](int from, int to) { return (7 * from + 3 * to) / 10; };
-    return {mixed(base.red(), 255), mixed(base.green(), 64), mixed(base.blue(), 64)};
+QString warningFor(NumberRule rule, const QString& text) {
+    if (rule == NumberRule::whole) return isWhole16(text) ? QString() : QStringLiteral("Ide csak egész szám írható");
+    return beginsWithNumber(text) ? QString() : QStringLiteral("Nem szám: 0 lesz belőle");
 }
 
 } // namespace
 
-NumberBox::NumberBox(QWidget* parent) : QLineEdit(parent) {
-    setValidator(new PointValidator(this));
+bool isWhole16(const QString& text) {
+    static const QRegularExpression whole(QStringLiteral("^ *-?[0-9]+ *$"));
+    bool fits = false;
+    text.toShort(&fits);
+    return fits && whole.match(text).hasMatch();
+}
+
+NumberBox::NumberBox(NumberRule rule, QWidget* parent) : QLineEdit(parent), rule_(rule), mark_(new WarningMark(this)) {
+    if (rule == NumberRule::leading) setValidator(new PointValidator(this));
     setFixedWidth(fontMetrics().horizontalAdvance(QStringLiteral("-0000.0000")));
     connect(this, &QLineEdit::textChanged, this, &NumberBox::mark);
 }
 
-void NumberBox::mark() {
-    const bool marked = !beginsWithNumber(text());
-    if (marked == marked_) return;
-    marked_ = marked;
-    if (marked) ownTip_ = toolTip();
-    setToolTip(marked ? QStringLiteral("Nem szám: 0 lesz belőle") : ownTip_);
-    colour();
-}
-
-// Over the palette of the moment, which may turn dark while the box is marked.
-void NumberBox::colour() {
-    QPalette own;
-    if (marked_) own.setColor(QPalette::Base, warningTint(parentWidget()->palette().color(QPalette::Base)));
-    setPalette(own);
-}
-
-void NumberBox::changeEvent(QEvent* event) {
-    QLineEdit::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange) colour();
-}
+void NumberBox::mark() { mark_->show(warningFor(rule_, text())); }

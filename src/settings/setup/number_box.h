@@ -1,21 +1,25 @@
 #pragma once
 
-#include <QLineEdit>
+#include "settings/setup/warning_mark.h"
 
-// A box for one number. It takes any text, since the leading number counts, but turns a comma into the point that
-// numbers are read by. A text without a number is stored as 0: while it stands in the box, colour and tooltip say so.
+// What a box for one number makes of a text that is no number.
+enum class NumberRule {
+    leading, // the leading number counts, and where there is none, 0 is stored
+    whole,   // it must be a whole number of 16 bits, or it is refused
+};
+
+bool isWhole16(const QString& text);
+
+// A box for one number, which takes any text. While it holds one that is no number, a mark says what becomes of it.
+// Where the leading number counts, a comma turns into the point that numbers are read by.
 class NumberBox : public QLineEdit {
     Q_OBJECT
 public:
-    explicit NumberBox(QWidget* parent);
-
-protected:
-    void changeEvent(QEvent* event) override;
+    NumberBox(NumberRule rule, QWidget* parent);
 
 private:
     void mark();
-    void colour();
 
-    bool marked_ = false;
-    QString ownTip_; // what the tooltip says of a number
+    NumberRule rule_;
+    WarningMark* mark_;
 };

@@ -45,7 +45,7 @@ constexpr BoxRow<SetRcsekk> fixedAddressee[] = {
 
 } // namespace
 
-QWidget* pinkCheckPage(const SetupContext& context) {
+SetupPage* pinkCheckPage(const SetupContext& context) {
     PageBuilder page(context);
     RecordBoxes<SetRcsekk> layout(context.folder);
     RecordBoxes<SetRcsekk> addressee(context.folder);
@@ -55,10 +55,11 @@ QWidget* pinkCheckPage(const SetupContext& context) {
                {0, 0});
     page.place(page.frame<SetRcsekk>({nullptr, u"Betűk", 2}, letters, layout), {1, 0});
     BoxFrame* addresseeFrame = page.frame<SetRcsekk>({"Frame1_1", u"Címzett adatai:"}, fixedAddressee, addressee);
-    page.addSave(*addresseeFrame,
-                 {"cmdRcsekkCimzettMent", u"&Mentés", {u" Mentés ", u"Biztos menthető a címzett adatai?"}, [addressee] {
-                      return addressee.store();
-                  }});
+    page.addSaves(
+        *addresseeFrame,
+        {{"cmdRcsekkCimzettMent", u"&Mentés", {u" Mentés ", u"Biztos menthető a címzett adatai?"}, [addressee] {
+              return addressee.store();
+          }}});
     page.place(addresseeFrame, {0, 1});
 
     page.addSave({"cmdRCsekkAlapertelm",

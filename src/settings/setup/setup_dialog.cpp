@@ -10,24 +10,29 @@
 namespace {
 
 struct PageRow {
-    int setupOldal; // the number by which the main window asks for it
     const char16_t* caption;
-    QWidget* (*make)(const SetupContext&);
+    SetupPage* (*make)(const SetupContext&);
 };
 
-// In the order of the tabs.
+// In the order of their numbers, by which the main window asks for them.
 constexpr PageRow pages[] = {
-    {0, u"Csekk", yellowCheckPage},
-    {5, u"Rózsaszín csekk", pinkCheckPage},
+    {u"Csekk", yellowCheckPage},
+    {u"Tértivevény", returnReceiptPage},
+    {u"Feladóvevény", postingReceiptPage},
+    {u"Boríték", envelopePage},
+    {u"Térti Irathoz", documentReceiptPage},
+    {u"Rózsaszín csekk", pinkCheckPage},
+    {u"Utánvételi lap", cashOnDeliveryPage},
 };
 
 } // namespace
 
-frmSetup::frmSetup(const ProgramFolder& folder, Prompts& prompts, const QStringList& fonts, int setupOldal,
+frmSetup::frmSetup(const ProgramFolder& folder, Prompts& prompts, const DeviceFonts& fonts, int setupOldal,
                    QWidget* parent)
     : Dialog("frmSetup", QStringLiteral("Beállítások"), parent)
     , SSTab1_(named(new QTabWidget, "SSTab1")) {
-    addPages(folder, prompts, fonts, setupOldal);
+    addPages({folder, prompts, fonts});
+    SSTab1_->setCurrentIndex(setupOldal);
 
     auto* back = named(new QPushButton(QStringLiteral("&Vissza")), "Command3");
     connect(back, &QPushButton::clicked, this, &QDialog::reject);
@@ -37,9 +42,13 @@ frmSetup::frmSetup(const ProgramFolder& folder, Prompts& prompts, const QStringL
     layout->addWidget(back, 0, Qt::AlignRight);
 }
 
-void frmSetup::addPages(const ProgramFolder& folder, Prompts& prompts, const QStringList& fonts, int setupOldal) {
+void frmSetup::addPages(const SetupContext& context) {
     for (const PageRow& row : pages) {
-        const int place = SSTab1_->addTab(row.make({folder, prompts, fonts}), QString::fromUtf16(row.caption));
-        if (row.setupOldal == setupOldal) SSTab1_->setCurrentIndex(place);
+        SetupPage* page = row.make(context);
+        const QString caption = QString::fromUtf16(row.caption);
+        const int place = SSTab1_->addTab(page, caption);
+        connect(page, &SetupPage::changed, this, [this, page, place, caption] {
+            SSTab1_->setTabText(place, page->isEdited() ? caption + QStringLiteral(" *") : caption);
+        });
     }
 }

@@ -1,13 +1,10 @@
 #include "settings/general_settings.h"
+#include "settings/setup/catalogue_dialog.h"
 #include "settings/setup/setup_pages.h"
 
 #include <algorithm>
 
 namespace {
-
-constexpr auto explanation =
-    u"A megadott pozíciók mindig az adott mező első karakterének a pozícióját adják meg milliméterben, vízszintesen a "
-    u"csekk bal oldalától, ílletve függőlegesen a csekk felső oldalától!";
 
 constexpr BoxRow<Set> positions[] = {
     number<&Set::Textosszeg_x1>("Textosszeg_x1", u"Numerikus összeg 1 baloldaltól:"),
@@ -85,17 +82,22 @@ constexpr BoxRow<Set> deadline[] = {
 
 } // namespace
 
-QWidget* yellowCheckPage(const SetupContext& context) {
+SetupPage* yellowCheckPage(const SetupContext& context) {
     PageBuilder page(context);
     RecordBoxes<Set> boxes(context.folder);
-    page.explain(explanation);
+    page.explain(u"csekk");
     page.place(page.frame<Set>({nullptr, u"Nyomtatási pozíciók", 2}, positions, boxes), {0, 0});
     page.place(page.frame<Set>({nullptr, u"Betűk", 2}, letters, boxes), {1, 0});
     page.place(page.frame<Set>({"frmNyomtatando", u"Nyomtatandó adatok a csekkre"}, printedItems, boxes), {0, 1});
     page.place(page.frame<Set>({"Frame8", u"Kijelölés a listamezőben"}, deadline, boxes), {1, 1});
 
-    page.addLink({"cmdJogcim", u"&Jogcím szövegek felvétele", {}});
-    page.addLink({"cmdKozlemeny", u"&Közlemény szövegek felvétele", {}});
+    const auto catalogue = [&context](const CatalogueLook& look) {
+        return [&look, folder = context.folder, prompts = &context.prompts](QWidget* parent) {
+            CatalogueDialog(look, folder, *prompts, parent).exec();
+        };
+    };
+    page.addLink({"cmdJogcim", u"&Jogcím szövegek felvétele", catalogue(frmJogcimek)});
+    page.addLink({"cmdKozlemeny", u"&Közlemény szövegek felvétele", catalogue(frmKozlemeny)});
     page.addSave({"Command2",
                   u"&Alapértelmezettre visszaállítás",
                   {u" Módosítás ", u"Biztos módosítod a beállításokat\naz alapértelmezett értékekre?"},
