@@ -21,6 +21,9 @@
 #include <QTimer>
 #include <QTreeView>
 
+#include <algorithm>
+#include <cmath>
+#include <optional>
 #include <vector>
 
 namespace {
@@ -75,8 +78,8 @@ int Tour::run() {
     printForms("cmdPrint", QStringLiteral("egyes"), 1);
     printBatches();
     printLabels();
-    openSetup(0);
-    openSetup(6);
+    moveSettings();
+    openCatalogues();
     closeAndReopen();
     QTextStream(stdout) << (failures_ == 0 ? QStringLiteral("The tour went well.\n")
                                            : QStringLiteral("%1 steps failed.\n").arg(failures_));
@@ -276,19 +279,95 @@ void Tour::printLabels() {
     click("chkEgyediCimke");
 }
 
-void Tour::openSetup(int tab) {
-    showTab(tab);
-    QTimer::singleShot(100, [this, tab] {
+// Opens a modal dialog by `open` and lets `act` work with it; it is closed afterwards.
+void Tour::inDialog(const std::function<void()>& open, const std::function<void(QDialog&)>& act) {
+    QTimer::singleShot(100, [this, act] {
         auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        check(dialog != nullptr, QStringLiteral("the setup dialog opens"));
+        check(dialog != nullptr, QStringLiteral("a dialog opens"));
         if (dialog == nullptr) return;
-        dialog->resize(dialog->sizeHint() +
-                       QSize(24, 24)); // the offscreen platform's screen is smaller than a real one
-        const QString path = results_ + QStringLiteral("/06-beallitasok-%1.png").arg(tab);
-        check(dialog->grab().save(path), QStringLiteral("screenshot of the setup dialog"));
+        dialog->resize(dialog->sizeHint()); // the offscreen platform's screen is smaller than a real one
+        QTest::qWait(30);
+        act(*dialog);
         dialog->reject();
     });
-    window_->menuBar()->findChild<QAction*>(QStringLiteral("mnuSetup"))->trigger();
+    open();
+}
+
+void Tour::openSetup(const std::function<void(QDialog&)>& act) {
+    inDialog([this] { window_->menuBar()->findChild<QAction*>(QStringLiteral("mnuSetup"))->trigger(); }, act);
+}
+
+void Tour::shootDialog(QDialog& dialog, const QString& name) {
+    check(dialog.grab().save(results_ + u'/' + name + QStringLiteral(".png")), QStringLiteral("screenshot ") + name);
+}
+
+namespace {
+
+// A position of each setup page, in whole mm from the left.
+struct Setting {
+    int tab;
+    const char *box, *save;
+};
+constexpr Setting settings[] = {
+    {0, "Textcim_x1", "Command1"},
+    {1, "txtTertiCimzett_x", "cmdTertiMentes"},
+    {2, "txtFeladovevenyCimzett_x", "cmdFeladovevenyMentes"},
+    {3, "Text1_3", "cmdBoritekMeretSave_0"},
+    {5, "txtIratTertiCimzett_x", "cmdIratTertiMentes"},
+    {6, "RcsekkTextFelado_x", "cmdRCsekkMentes"},
+    {7, "UlapTextFelado_x", "cmdULapMentes"},
+};
+
+bool stands(const PrintJob& job, const PlacedText& text, float x) {
+    const auto& items = job.pages.front().items;
+    return std::any_of(items.begin(), items.end(), [&](const PlacedItem& item) {
+        const auto& placed = std::get<PlacedText>(item);
+        return placed.text == text.text && placed.y == text.y && std::abs(placed.x - x) < 0.001F;
+    });
+}
+
+// Whether a text stands so many mm to the right of where it stood.
+bool hasMoved(const PrintJob& before, const PrintJob& after, float millimetres) {
+    const auto& items = before.pages.front().items;
+    return std::any_of(items.begin(), items.end(), [&](const PlacedItem& item) {
+        const auto& text = std::get<PlacedText>(item);
+        return !stands(after, text, text.x) && stands(after, text, text.x + millimetres);
+    });
+}
+
+} // namespace
+
+// Every page of the setup dialog: a changed position moves what prints there by as many millimetres.
+void Tour::moveSettings() {
+    constexpr int millimetres = 7;
+    clickRow(3);
+    showTab(0);
+    type("txOsszeg", QStringLiteral("1500"));
+    for (const Setting& setting : settings) {
+        showTab(setting.tab);
+        click("OpOrientacioFekvo");
+        click("cmdPrint");
+        const PrintJob before = printing_.job;
+        openSetup([&](QDialog& dialog) {
+            auto* box = dialog.findChild<QLineEdit*>(QLatin1String(setting.box));
+            box->setText(QString::number(box->text().toInt() + millimetres));
+            shootDialog(dialog, QStringLiteral("06-beallitasok-%1-modositva").arg(setting.tab));
+            dialog.findChild<QPushButton*>(QLatin1String(setting.save))->click();
+            shootDialog(dialog, QStringLiteral("06-beallitasok-%1").arg(setting.tab));
+        });
+        click("cmdPrint");
+        check(hasMoved(before, printing_.job, millimetres),
+              QStringLiteral("%1 moves its text by %2 mm").arg(QLatin1String(setting.box)).arg(millimetres));
+    }
+}
+
+void Tour::openCatalogues() {
+    showTab(0);
+    openSetup([this](QDialog& setup) {
+        for (const char* button : {"cmdJogcim", "cmdKozlemeny"})
+            inDialog([&] { setup.findChild<QPushButton*>(QLatin1String(button))->click(); },
+                     [&](QDialog& dialog) { shootDialog(dialog, QStringLiteral("07-") + QLatin1String(button)); });
+    });
 }
 
 void Tour::closeAndReopen() {

@@ -4,7 +4,10 @@
 #include "platform/qt_print_service.h"
 #include "prompts/prompts.h"
 
+#include <functional>
 #include <memory>
+
+class QDialog;
 
 // Answers every prompt as a willing clerk would, and keeps what was shown.
 class TourPrompts : public Prompts {
@@ -61,7 +64,11 @@ private:
     void selectBatch(int clients);
     void printBatches();
     void printLabels();
-    void openSetup(int tab);
+    void inDialog(const std::function<void()>& open, const std::function<void(QDialog&)>& act);
+    void openSetup(const std::function<void(QDialog&)>& act);
+    void shootDialog(QDialog& dialog, const QString& name);
+    void moveSettings();
+    void openCatalogues();
     void closeAndReopen();
 
     QString results_;
