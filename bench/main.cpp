@@ -13,6 +13,8 @@ int main(int argc, char** argv) {
     // Large blocks come fresh from the system at every size, for the program as for its limits. Left to itself the
     // library hands a small database the memory of the one before, which makes it look six times as fast.
     mallopt(M_MMAP_THRESHOLD, 1 << 20);
+    // The first option freezes this one at its least, and small blocks would go back to the system after every page.
+    mallopt(M_TRIM_THRESHOLD, 2 << 20);
     const QApplication application(argc, argv);
     Suite suite;
     addWindowBenches(suite); // first: a process starts others faster while it is small

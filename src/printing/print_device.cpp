@@ -90,8 +90,10 @@ bool PrintDevice::knowsFont(const QString& name) const {
 }
 
 void PrintDevice::setFontName(const QString& name) {
-    if (!knowsFont(name)) throw refusedValue();
-    font_.name = withoutTrailingBlanks(name);
+    const QString wanted = withoutTrailingBlanks(name);
+    if (!wanted.isEmpty() && wanted == font_.name) return; // asking the service takes as long as the rest of a line
+    if (!knowsFont(wanted)) throw refusedValue();
+    font_.name = wanted;
 }
 
 void PrintDevice::setFontSize(float points) {
