@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QPrinter>
 
+#include <cmath>
 #include <optional>
 
 using namespace Qt::Literals::StringLiterals;
@@ -72,7 +73,9 @@ private:
         painter_.drawImage(QRectF(at(placed.x, placed.y), size * paperUnitsPerMm), placed.picture);
     }
 
-    static QPointF at(float x, float y) { return QPointF(x, y) * paperUnitsPerMm; }
+    // To a sixteenth of a paper unit, far below the dot of any printer: such a number is short in a PDF.
+    static qreal toPaper(float mm) { return std::round(qreal(mm) * paperUnitsPerMm * 16) / 16; }
+    static QPointF at(float x, float y) { return {toPaper(x), toPaper(y)}; }
 
     [[noreturn]] void fail(const QString& description) { drop({482, description}); }
 
