@@ -24,7 +24,7 @@ QImage loadedPicture(const QString& path) {
     if (path.isEmpty()) return {};
     QImageReader reader(path);
     reader.setAutoTransform(true);
-    const QImage image = reader.read();
+    QImage image = reader.read();
     if (!image.hasAlphaChannel()) return image;
     QImage flat(image.size(), QImage::Format_RGB32);
     flat.setDotsPerMeterX(image.dotsPerMeterX());
