@@ -117,7 +117,7 @@ public:
         for (const PrintedPage& page : job.pages) {
             std::vector<BareItem>& items = pages_.emplace_back();
             for (const PlacedItem& item : page.items)
-                items.push_back(std::visit([this](const auto& placed) { return BareItem(bare(placed)); }, item));
+                items.push_back(std::visit([this](const auto& placed) { return BareItem(this->bare(placed)); }, item));
         }
     }
 

@@ -77,12 +77,12 @@ TEST_F(LabelSheet, TickedPlacesGetTheirClients) {
 TEST_F(LabelSheet, TheListFillsSheetAfterSheet) {
     const struct {
         std::size_t clients;
-        std::vector<std::size_t> labels; // of each page
+        std::vector<qsizetype> labels; // of each page
     } lists[] = {{1, {1}}, {6, {6}}, {7, {6, 1}}, {15, {6, 6, 3}}};
     for (const auto& list : lists) {
         const int before = count();
         EXPECT_EQ(print(std::vector<int>(list.clients, 2)).pages, static_cast<int>(list.labels.size()));
-        std::vector<std::size_t> labels;
+        std::vector<qsizetype> labels;
         for (const PrintedPage& page : lastJob().job.pages)
             labels.push_back(placedTexts(page).filter(u"Név 2"_s).size());
         EXPECT_EQ(labels, list.labels);
