@@ -1,6 +1,6 @@
 #include "records/catalogue.h"
 
-#include <QSaveFile>
+#include "records/file_replacement.h"
 
 #include <optional>
 
@@ -42,8 +42,5 @@ bool removeEntry(const ProgramFolder& folder, const Catalogue& catalogue, qint64
     std::optional<QByteArray> entries = readWhole(folder, catalogue);
     if (!entries || number < 1 || number > entries->size() / entryLength) return false;
     entries->remove((number - 1) * entryLength, entryLength);
-    // Unbuffered: QSaveFile looks at the errors of its own writes only, not at those of a buffer flushed behind it.
-    QSaveFile shortened(folder.file(nameOf(catalogue)));
-    return shortened.open(QIODevice::WriteOnly | QIODevice::Unbuffered) &&
-           shortened.write(*entries) == entries->size() && shortened.commit();
+    return replaceFile(folder.file(nameOf(catalogue)), *entries);
 }

@@ -1,7 +1,11 @@
 #include "settings/setup/number_box.h"
 
+#include "records/number_text.h"
+
 #include <QRegularExpression>
 #include <QValidator>
+
+#include <limits>
 
 namespace {
 
@@ -28,10 +32,9 @@ QString warningFor(NumberRule rule, const QString& text) {
 } // namespace
 
 bool isWhole16(const QString& text) {
-    static const QRegularExpression whole(QStringLiteral("^ *-?[0-9]+ *$"));
-    bool fits = false;
-    text.toShort(&fits);
-    return fits && whole.match(text).hasMatch();
+    const auto number = wholeNumber(text);
+    using Limits = std::numeric_limits<std::int16_t>;
+    return number && *number >= Limits::min() && *number <= Limits::max();
 }
 
 NumberBox::NumberBox(NumberRule rule, QWidget* parent) : QLineEdit(parent), rule_(rule), mark_(new WarningMark(this)) {
