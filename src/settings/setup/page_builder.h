@@ -91,7 +91,7 @@ public:
     // Answers the boxes in the order of the rows.
     template<class Rec>
     std::vector<QWidget*> add(BoxFrame& frame, std::span<const BoxRow<Rec>> rows, RecordBoxes<Rec>& boxes) {
-        const std::vector<QWidget*> widgets = addBoxes(frame, {rows.begin(), rows.end()});
+        std::vector<QWidget*> widgets = addBoxes(frame, {rows.begin(), rows.end()});
         for (std::size_t i = 0; i < rows.size(); ++i)
             boxes.bind(rows[i], widgets[i]);
         watch(frame, [boxes] { return boxes.isEdited(); });
