@@ -35,7 +35,7 @@ void restoreArrangement(const ProgramFolder& folder, QWidget& window, QSplitter&
     if (!window.restoreGeometry(stored.value(geometryKey).toByteArray())) centre(window);
     if (!splitter.restoreState(stored.value(splitterKey).toByteArray()))
         splitter.setSizes({formHeight, window.height() - formHeight});
-    const int listWidth = window.width() - 290; // beside its buttons and the record numbers
+    const int listWidth = qMax(400, window.width() - 290); // beside its buttons and the record numbers
     QList<int> widths{qMin(353, listWidth * 2 / 5), qMin(470, listWidth / 2)}; // of the design: 5292 and 7056 twips
     if (stored.contains(columnsKey)) widths.clear();
     for (const QVariant& width : stored.value(columnsKey).toList())
