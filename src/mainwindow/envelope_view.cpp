@@ -31,7 +31,7 @@ const TypeRow types[] = {
      "C6 Normál boríték",
      {162, 114},
      {8, 8.15},
-     {84, 58.05}},
+     {84, 60.05}},
     {EnvelopeType::C5,
      "OpB2",
      "C5 boríték (229 x 162 mm)",
@@ -39,7 +39,7 @@ const TypeRow types[] = {
      "C5 boríték",
      {229, 162},
      {11.31, 11.52},
-     {118.74, 82.06}},
+     {118.74, 95.06}},
     {EnvelopeType::C56,
      "OpB3",
      "C5/6 csekk boríték (229 x 114 mm)",
@@ -47,7 +47,7 @@ const TypeRow types[] = {
      "C5/6 csekk boríték",
      {229, 114},
      {11.31, 11.52},
-     {118.74, 56.07}},
+     {118.74, 60.07}},
 };
 
 // The blocks on a C6 envelope, mm. The wider ones are drawn larger in proportion, so that a block has the same size on
