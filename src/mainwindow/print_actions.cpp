@@ -17,7 +17,8 @@ void PrintActions::press(Press press, Tab tab) {
     desk_.panel.setButtonsEnabled(false);
     const PrintRequest request{tab, press, desk_.panel.feed()};
     PrintOutcome outcome = print(request);
-    if (outcome.trouble.isEmpty()) outcome.trouble = amountTrouble(request);
+    if (const QString differs = amountTrouble(request); outcome.pages > 0 && !differs.isEmpty())
+        outcome.trouble += (outcome.trouble.isEmpty() ? QString() : u" "_s) + differs;
     desk_.panel.setButtonsEnabled(true);
     report(outcome);
     Q_EMIT printed(tab);
@@ -46,12 +47,14 @@ PrintOutcome PrintActions::print(const PrintRequest& request) {
     return outcome;
 }
 
-// Digits print as they were typed, the words say what was read of them.
+// Digits print as they were typed, the words say what was read of them; a back has neither.
 QString PrintActions::amountTrouble(const PrintRequest& request) const {
     const QString* amount = nullptr;
     if (request.tab == Tab::yellowCheck) amount = &desk_.tabs.yellowCheck.txOsszeg;
-    if (request.tab == Tab::pinkCheck) amount = &desk_.tabs.pinkCheck.RtxOsszeg;
-    if (request.tab == Tab::cashOnDelivery) amount = &desk_.tabs.cashOnDelivery.txUosszeg;
+    const PinkCheckTab& pink = desk_.tabs.pinkCheck;
+    if (request.tab == Tab::pinkCheck && pink.side == Side::front) amount = &pink.RtxOsszeg;
+    const CashOnDeliveryTab& cash = desk_.tabs.cashOnDelivery;
+    if (request.tab == Tab::cashOnDelivery && cash.side == Side::front) amount = &cash.txUosszeg;
     const bool agrees = amount == nullptr || request.press == Press::batch || isPlainAmount(*amount);
     return agrees ? QString() : u"Az összeg számjegyei és betűi nem egyeznek: "_s + *amount;
 }

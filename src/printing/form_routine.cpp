@@ -75,7 +75,6 @@ void askForManyPages(Pen& pen, const PrintDesk& desk, int pages) {
 PrintOutcome printOne(const PrintDesk& desk, const FormRoutine& routine, const PrintForm& print,
                       const std::optional<Message>& missing) {
     Pen pen(desk, routine.failureWay, routine.jobTitle.toString());
-    if (routine.fromA4) pen.StartFromA4();
     if (missing) {
         pen.Reject(*missing);
         return pen.outcome();
@@ -91,7 +90,6 @@ PrintOutcome printOne(const PrintDesk& desk, const FormRoutine& routine, const P
 PrintOutcome printEach(const PrintDesk& desk, const FormRoutine& routine, const ListRows& rows,
                        const PrintClient& print) {
     Pen pen(desk, routine.failureWay, routine.jobTitle.toString());
-    if (routine.fromA4) pen.StartFromA4();
     const auto set = readRecord<Set>(desk.folder);
     pen.SelectPrinter(set, routine.track);
     const bool takesAll = routine.allRowsWhenAutomatic && set.chkAutoPrint != 0;

@@ -14,7 +14,6 @@ struct FormRoutine {
     FailureWay failureWay;
     PageRequest page = {};
     TrackDefault track = TrackDefault::leave;
-    bool fromA4 = false; // begins with a plain A4 page (Pen::StartFromA4)
 
     // Of batches alone:
     QStringView noun = {};             // what one page is, for the summary in the print dialog: "csekk"

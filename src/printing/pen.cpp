@@ -25,10 +25,6 @@ Pen::Pen(const PrintDesk& desk, FailureWay way, const QString& jobTitle, FirstPa
 
 Pen::Pen(PrintDevice& device) : device_(device), desk_(nullptr), way_(FailureWay::passOver) {}
 
-void Pen::StartFromA4() {
-    attempt([&] { device_.setSizeTwips(11910, 16790); });
-}
-
 void Pen::SelectPrinter(const Set& set, TrackDefault track) {
     attempt([&] {
         const bool followsDefault = set.opPrinter_1;

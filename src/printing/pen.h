@@ -45,8 +45,6 @@ public:
     // A pen that only measures, also in the middle of a job: failures are passed over.
     explicit Pen(PrintDevice& device);
 
-    // A plain A4 page on the device that is still current; selecting a printer begins with that one's own page anyway.
-    void StartFromA4();
     // The device of the settings, unless they say that the system's default is used.
     void SelectPrinter(const Set& set, TrackDefault track = TrackDefault::leave);
     // The print dialog with a summary of the job; device and copies picked there hold for this job. Cancel is error

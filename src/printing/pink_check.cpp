@@ -117,11 +117,9 @@ constexpr Back backItems[] = {
 
 // Both sides of every run print alike, but for the page and what the summary counts.
 FormRoutine routineFor(Run run, Side side) {
-    const bool batch = run == Run::uprightBatch || run == Run::sidewaysBatch;
     FormRoutine routine{.run = run,
                         .jobTitle = u"rozsaszin-csekk",
                         .failureWay = FailureWay::message,
-                        .fromA4 = batch,
                         .noun = u"csekk",
                         .printsAmount = side == Side::front,
                         .asksForPrinter = true};

@@ -152,6 +152,15 @@ TEST_F(WindowPrint, StatusLineOpensThePdfAndForgetsItForTheNextClient) {
         const bool agrees = status().ends_with(". ");
         EXPECT_EQ(agrees, std::string(amount) == "12.500") << status();
     }
+    goTo(6); // nobody is the addressee there, which must not hide the other trouble
+    type("RtxOsszeg", QStringLiteral("12.5"));
+    press("cmdPrint");
+    EXPECT_TRUE(status().ends_with("A címzett adatai üresek. Az összeg számjegyei és betűi nem egyeznek: 12.5"))
+        << status();
+    press("cmdOldalCsere");
+    press("cmdPrint"); // no amount on the back
+    EXPECT_EQ(status().find("Az összeg"), std::string::npos) << status();
+    goTo(0);
     type("txOsszeg", QStringLiteral("0"));
     press("cmdPrint");
     EXPECT_EQ(status(), "Nem készült nyomat. Az összeg üres vagy nulla.");

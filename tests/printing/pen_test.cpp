@@ -87,20 +87,18 @@ TEST_F(PenTest, AJobTakesNothingOverFromTheOneBefore) {
         pen.EndForm(FormEnd::job);
         device.setCurrentY(99);
     };
-    const auto printed = [&](FirstPage first, bool fromA4) {
+    const auto printed = [&](FirstPage first) {
         leaveALot();
         Pen pen(desk, FailureWay::passOver, u"form"_s, first);
-        if (fromA4) pen.StartFromA4();
         pen.SetFont(u"Nincs ilyen"_s, 0); // passed over
         pen.PlaceNext(0, u"x"_s);
         pen.EndForm(FormEnd::job);
         return service.delivered.back().job.pages.back();
     };
     const PageSetup ownPage, envelope{2, 27, {}};
-    const std::tuple<FirstPage, bool, PageSetup> rows[] = {
-        {FirstPage::ownPage, false, ownPage}, {FirstPage::asLeft, false, envelope}, {FirstPage::asLeft, true, ownPage}};
-    for (const auto& [first, fromA4, setup] : rows) {
-        const PrintedPage page = printed(first, fromA4);
+    const std::pair<FirstPage, PageSetup> rows[] = {{FirstPage::ownPage, ownPage}, {FirstPage::asLeft, envelope}};
+    for (const auto& [first, setup] : rows) {
+        const PrintedPage page = printed(first);
         EXPECT_EQ(page.setup, setup);
         const auto& text = std::get<PlacedText>(page.items.at(0));
         EXPECT_EQ(text.font, (Font{u"Times New Roman CE"_s, 12}));
