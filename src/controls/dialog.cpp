@@ -16,16 +16,27 @@ void Dialog::setVisible(bool visible) {
     if (visible) {
         for (QPushButton* button : findChildren<QPushButton*>())
             button->setAutoDefault(false);
-        if (!isPlaced_) centre();
-        isPlaced_ = true;
+        if (!isVisible()) place();
     }
     QDialog::setVisible(visible);
 }
 
-void Dialog::centre() {
+// What the screen leaves for the content of a window with a frame.
+QRect Dialog::room() const {
     const QScreen* shownOn = parentWidget() ? parentWidget()->screen() : screen();
     constexpr QMargins windowFrame(8, 32, 8, 8);
-    const QRect room = shownOn->availableGeometry().marginsRemoved(windowFrame);
-    const QSize size = sizeHint().boundedTo(room.size());
-    setGeometry(QStyle::alignedRect(layoutDirection(), Qt::AlignCenter, size, room));
+    return shownOn->availableGeometry().marginsRemoved(windowFrame);
+}
+
+void Dialog::place() {
+    const QRect screen = room();
+    const QSize size = sizeHint().boundedTo(screen.size());
+    setGeometry(QStyle::alignedRect(layoutDirection(), Qt::AlignCenter, size, screen));
+}
+
+void Dialog::placeAt(const QPoint& corner) {
+    const QRect screen = room();
+    resize(sizeHint().boundedTo(screen.size()));
+    move(qBound(screen.left(), corner.x(), screen.right() - width()),
+         qBound(screen.top(), corner.y(), screen.bottom() - height()));
 }

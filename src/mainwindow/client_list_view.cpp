@@ -1,34 +1,14 @@
 #include "mainwindow/client_list_view.h"
 
 #include "controls/named.h"
+#include "controls/report_list.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QStyledItemDelegate>
 
 #include <algorithm>
-
-namespace {
-
-// Rows with room above the accents of capitals, which a font's own line height may cut. The blanks that pad a stored
-// text are no reason to mark it as cut off.
-class RoomyRows : public QStyledItemDelegate {
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-    QString displayText(const QVariant& value, const QLocale& /*locale*/) const override {
-        QString text = value.toString();
-        while (text.endsWith(u' '))
-            text.chop(1);
-        return text;
-    }
-    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, 5);
-    }
-};
-
-} // namespace
 
 ClientListView::ClientListView(QWidget* parent) : QTreeView(parent) {
     named(this, "ListView1", QStringLiteral("''Delete\" -  kijelöltek törlése a listából\nF4 - ugrás a listába"));

@@ -1,5 +1,6 @@
 #include "mainwindow/client_pour.h"
 
+#include "clients/client_amounts.h"
 #include "mainwindow/cash_on_delivery_rules.h"
 #include "mainwindow/envelope_label_rules.h"
 #include "mainwindow/pink_check_rules.h"
@@ -8,17 +9,9 @@
 
 namespace {
 
-// The usable amounts in slot order; empty slots leave no gap.
-QStringList usableAmounts(const ClientRec& client) {
-    QStringList amounts;
-    for (const std::int32_t forints : client.Osszegek)
-        if (isUsableAmount(forints)) amounts << QString::number(forints);
-    return amounts;
-}
-
 // The checks and forms take the first slot; without a usable amount there, nothing, and the others stay to choose from.
 void fillAmounts(FormTabs& tabs, const ClientRec& client) {
-    tabs.yellowCheck.amounts = usableAmounts(client);
+    tabs.yellowCheck.amounts = offeredAmounts(client);
     tabs.pinkCheck.amounts = tabs.yellowCheck.amounts;
     const std::int32_t first = client.Osszegek[0];
     const QString amount = isUsableAmount(first) ? QString::number(first) : QString();
@@ -34,7 +27,7 @@ void fillAmounts(FormTabs& tabs, const ClientRec& client) {
 
 } // namespace
 
-void pourClient(FormTabs& tabs, const Client& client, const PourSettings& settings, PrintDevice& device) {
+void pourModified(FormTabs& tabs, const Client& client, const PourSettings& settings) {
     const PostalLines address = postalLines(client.client);
     showClient(tabs.yellowCheck, client, settings.set);
     showClient(tabs.pinkCheck, client.client);
@@ -44,6 +37,10 @@ void pourClient(FormTabs& tabs, const Client& client, const PourSettings& settin
     showClient(tabs.documentReceipt, client, address);
     showClient(tabs.cashOnDelivery, client.client, address, settings.pink);
     showClient(tabs.label, client.client);
+}
+
+void pourClient(FormTabs& tabs, const Client& client, const PourSettings& settings, PrintDevice& device) {
+    pourModified(tabs, client, settings);
     fillAmounts(tabs, client.client);
     // In any case, not only where the amount is another: words that the clerk typed for the last client must not stay.
     txOsszeg_Change(tabs.yellowCheck, settings.set, device);

@@ -15,3 +15,7 @@ struct PourSettings {
 // Fills all forms with one client, words of the amounts included. `client` is the caller's own copy: nothing that the
 // filling sets off elsewhere can put another client in its place.
 void pourClient(FormTabs& tabs, const Client& client, const PourSettings& settings, PrintDevice& device);
+
+// The client in hand has been modified: all forms show the new texts. The amounts and their words, of which the entry
+// tells nothing, stay as the clerk has them.
+void pourModified(FormTabs& tabs, const Client& client, const PourSettings& settings);

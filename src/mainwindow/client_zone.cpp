@@ -7,6 +7,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollBar>
 
 ClientZone::ClientZone(const ProgramFolder& folder, QWidget* parent)
     : QWidget(parent)
@@ -41,17 +42,18 @@ QWidget* ClientZone::buildSide() {
         const char16_t* caption;
         const char16_t* tooltip;
         int row, column, columns;
-        bool enabled; // the dialogs behind the others aren't there yet; delete waits for the first click on a row
+        bool needsClient; // waits for the first click on a row
         void (ClientZone::*press)();
     };
     static constexpr Button buttons[] = {
-        {"cmdBeolvas", u"Beol&vasás", u"Teljes adatállomány beolvasása a listába (F5)", 0, 0, 1, true,
+        {"cmdBeolvas", u"Beol&vasás", u"Teljes adatállomány beolvasása a listába (F5)", 0, 0, 1, false,
          &ClientZone::cmdBeolvas_Click},
-        {"cmdRogzit", u"&Felvétel", u"", 0, 1, 1, false, nullptr},
-        {"cmdModosit", u"&Módosítás", u"", 1, 0, 1, false, nullptr},
-        {"cmdDel", u"&Törlés", u"", 1, 1, 1, false, &ClientZone::deletePressed},
-        {"cmdOsszegek", u"Csekk Összegek &Rögzítése", u"Összeg rögzítése a kijelölt ügyfélhez...", 2, 0, 2, false,
-         nullptr},
+        {"cmdRogzit", u"&Felvétel", u"Új címzett felvétele", 0, 1, 1, false, &ClientZone::addPressed},
+        {"cmdModosit", u"&Módosítás", u"A kijelölt ügyfél adatainak módosítása", 1, 0, 1, true,
+         &ClientZone::modifyPressed},
+        {"cmdDel", u"&Törlés", u"A kijelölt ügyfél törlése az adatbázisból", 1, 1, 1, true, &ClientZone::deletePressed},
+        {"cmdOsszegek", u"Csekk Összegek &Rögzítése", u"Összeg rögzítése a kijelölt ügyfélhez...", 2, 0, 2, true,
+         &ClientZone::amountsPressed},
     };
     auto* side = new QWidget;
     auto* grid = new QGridLayout(side);
@@ -60,24 +62,33 @@ QWidget* ClientZone::buildSide() {
     for (const Button& row : buttons) {
         auto* button =
             named(new QPushButton(QString::fromUtf16(row.caption)), row.name, QString::fromUtf16(row.tooltip));
-        button->setEnabled(row.enabled);
-        if (row.press != nullptr) connect(button, &QPushButton::clicked, this, row.press);
+        if (row.needsClient) clientButtons_ << button;
+        connect(button, &QPushButton::clicked, this, row.press);
         grid->addWidget(button, row.row, row.column, 1, row.columns);
     }
-    delete_ = side->findChild<QPushButton*>(QStringLiteral("cmdDel"));
+    enableClientButtons(false);
     grid->addWidget(order_, 3, 0, 1, 2);
     grid->addWidget(count_, 4, 0, 1, 2);
     grid->setRowStretch(5, 1);
     return side;
 }
 
-void ClientZone::Beolvas() { model_.Beolvas(folder_); }
+void ClientZone::Beolvas(int keep) {
+    const int scrolledTo = view_->verticalScrollBar()->value();
+    model_.Beolvas(folder_);
+    view_->verticalScrollBar()->setValue(scrolledTo);
+    select(keep);
+}
 
 void ClientZone::cmdBeolvas_Click() { model_.cmdBeolvas_Click(folder_); }
 
 void ClientZone::search(const QString& text, int keep) {
     model_.search(folder_, text);
-    const int row = model_.rowOf(keep);
+    select(keep);
+}
+
+void ClientZone::select(int recordNumber) {
+    const int row = model_.rowOf(recordNumber);
     if (row >= 0) view_->selectRow(row);
 }
 
@@ -115,7 +126,10 @@ void ClientZone::tellFilled() {
 
 void ClientZone::showCount(const QString& lbKijelolve) { count_->setText(lbKijelolve); }
 
-void ClientZone::enableDelete(bool enabled) { delete_->setEnabled(enabled); }
+void ClientZone::enableClientButtons(bool enabled) {
+    for (QPushButton* button : clientButtons_)
+        button->setEnabled(enabled);
+}
 
 bool ClientZone::isAscending() const { return order_->isChecked(); }
 

@@ -18,7 +18,8 @@ public:
     explicit ClientZone(const ProgramFolder& folder, QWidget* parent = nullptr);
 
     // Refills the list from nevek1.dat; selection, buttons and count stay as they are told to be.
-    void Beolvas();
+    // `keep` is the client whose row is selected again; without one the list stays scrolled to where it was.
+    void Beolvas(int keep = 0);
     // The button: the same with bare record numbers.
     void cmdBeolvas_Click();
     // Narrows the list to the names that contain `text`; `keep` is then selected again if it is still there.
@@ -32,7 +33,8 @@ public:
     int selectedCount() const { return static_cast<int>(view_->selectedRows().size()); }
     int recordNumber(int row) const { return model_.recordNumber(row); }
     void showCount(const QString& lbKijelolve);
-    void enableDelete(bool enabled);
+    // The buttons that work on the client in hand.
+    void enableClientButtons(bool enabled);
     bool isAscending() const;
     // Restores the stored order; ticked, it switches sorting on.
     void setAscending(bool ascending);
@@ -43,7 +45,10 @@ public:
 
 Q_SIGNALS:
     void rowClicked(int row);
+    void addPressed();
+    void modifyPressed();
     void deletePressed();
+    void amountsPressed();
     // The list was filled anew from a database of so many clients.
     void filled(qint64 clients);
     // For the status line.
@@ -51,6 +56,7 @@ Q_SIGNALS:
 
 private:
     QWidget* buildSide();
+    void select(int recordNumber);
     void sortBy(int column);
     void tellFilled();
 
@@ -59,5 +65,5 @@ private:
     ClientListView* view_;
     QCheckBox* order_;
     QLabel* count_;
-    QPushButton* delete_ = nullptr;
+    QList<QPushButton*> clientButtons_;
 };

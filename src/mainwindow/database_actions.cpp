@@ -1,7 +1,7 @@
 #include "mainwindow/database_actions.h"
 
 #include "mainwindow/work_in_progress.h"
-#include "prompts/titles.h"
+#include "prompts/messages.h"
 #include "settings/general_settings.h"
 
 #include <QCursor>
@@ -44,8 +44,7 @@ void DatabaseActions::checkAtStart() {
 }
 
 void DatabaseActions::cmdDel_Click(int rekordszam, const QString& shownName) {
-    if (rekordszam < 1 || rekordszam > clientCount(folder_))
-        return prompts_.tell({Icon::information, titles::attention, u" Nincs kijelölve ügyfél a listáról..."_s});
+    if (rekordszam < 1 || rekordszam > clientCount(folder_)) return prompts_.tell(messages::nobodyPicked());
     const QString storedName = RecordFile<ClientRec>(folder_).read(rekordszam).Nev.trimmed();
     const QString name = trimBlanks(shownName) == storedName ? shownName : storedName;
     if (!confirms(prompts_, u"Feladó törlése"_s, u"Biztos mehet \n%1\n\ntörlése?"_s.arg(name.toUpper()))) return;
@@ -54,7 +53,7 @@ void DatabaseActions::cmdDel_Click(int rekordszam, const QString& shownName) {
         const WorkInProgress::Turn turn(work_);
         return deleteClient(folder_, rekordszam);
     }();
-    if (!deleted) return tellNotWritten();
+    if (!deleted) return prompts_.tell(messages::notWritten());
     Q_EMIT changed({ClientsChanged::removed, rekordszam});
     Q_EMIT said(u"Az ügyfél törölve, %1 ügyfél maradt."_s.arg(clientCount(folder_)));
 }
@@ -62,7 +61,7 @@ void DatabaseActions::cmdDel_Click(int rekordszam, const QString& shownName) {
 void DatabaseActions::mnuAdatbazisTorles_Click() {
     const QString question = u"Biztos benne hogy TÖRLI \na teljes adatbázist?\n\nMehet a TÖRLÉS?"_s;
     if (!confirms(prompts_, u"Adatbázis törlése"_s, question)) return;
-    if (!wipeClients(folder_)) return tellNotWritten();
+    if (!wipeClients(folder_)) return prompts_.tell(messages::notWritten());
     Q_EMIT changed({ClientsChanged::replaced});
     Q_EMIT said(u"Az adatbázis üres."_s);
 }
@@ -91,7 +90,7 @@ void DatabaseActions::mnuAdatCsvbol_Click() {
     case ImportOutcome::Result::unreadable:
         return refuse(u"A fájl nem olvasható"_s);
     case ImportOutcome::Result::notWritten:
-        return tellNotWritten();
+        return prompts_.tell(messages::notWritten());
     }
 }
 
@@ -127,8 +126,4 @@ void DatabaseActions::tellImported(const ImportOutcome& outcome) {
         prompts_.tell({Icon::information, titles::attention,
                        u"Az adatbázis 32767-nél több ügyfelet tartalmaz,\n"
                        "a többi a listából nem választható ki!"_s});
-}
-
-void DatabaseActions::tellNotWritten() {
-    prompts_.tell({Icon::critical, titles::error, u"Az adatbázis nem írható, a korábbi állapot maradt meg."_s});
 }

@@ -1,18 +1,8 @@
 #pragma once
 
+#include "clients/clients_changed.h"
 #include "exchange/csv_import.h"
 #include "mainwindow/bound_view.h"
-
-// What happened to the clients of the database. Record numbers that somebody holds follow it in one place.
-struct ClientsChanged {
-    enum What {
-        appended, // behind the others, whose numbers stand
-        modified, // client `number`
-        removed,  // client `number`; those behind it moved down by one
-        replaced  // nobody is who he was
-    } what;
-    int number = 0;
-};
 
 class WorkInProgress;
 
@@ -39,7 +29,6 @@ Q_SIGNALS:
 private:
     ImportOutcome import(const QString& path, ImportMode mode);
     void tellImported(const ImportOutcome& outcome);
-    void tellNotWritten();
 
     const ProgramFolder& folder_;
     Prompts& prompts_;

@@ -19,9 +19,9 @@
 
 #include <QCloseEvent>
 #include <QGuiApplication>
-#include <QHBoxLayout>
 #include <QShortcut>
 #include <QSplitter>
+#include <QStackedWidget>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -30,15 +30,18 @@ frmTarlimo::frmTarlimo(const ProgramFolder& folder, const WindowServices& servic
     , services_(services)
     , device_(services.printing)
     , SSTab1_(new TabStrip(tabs_, {folder_, device_, services_.prompts, selected_}))
-    , splitter_(new QSplitter(Qt::Vertical))
     , clients_(new ClientZone(folder))
     , panel_(new PrintPanel(folder))
+    , pane_(new QStackedWidget)
+    , splitter_(arrange({SSTab1_, panel_, clients_, pane_}))
     , line_(new StatusLine)
     , work_(*this, *line_)
     , database_(folder, services_.prompts, work_)
+    , entry_({folder_, services_.prompts, tabs_, selected_, *this, *pane_})
     , printing_({folder_, services_, device_, tabs_, selected_, *clients_, *panel_, *line_, work_}) {
     setObjectName(u"frmTarlimo"_s);
-    buildLayout();
+    setCentralWidget(splitter_);
+    setStatusBar(line_);
     buildMainMenu(*menuBar());
     connectMenu();
     connectKeys();
@@ -46,24 +49,6 @@ frmTarlimo::frmTarlimo(const ProgramFolder& folder, const WindowServices& servic
     load();
     activate();
     clients_->setFocus(); // the day's work begins with a client
-}
-
-void frmTarlimo::buildLayout() {
-    auto* top = new QWidget;
-    auto* topLayout = new QHBoxLayout(top);
-    topLayout->setContentsMargins(0, 0, 0, 0);
-    topLayout->addWidget(SSTab1_, 1);
-    topLayout->addWidget(panel_);
-    splitter_->setObjectName(u"splitter"_s);
-    splitter_->setContentsMargins(8, 6, 8, 0);
-    splitter_->setChildrenCollapsible(false);
-    splitter_->addWidget(top);
-    splitter_->addWidget(clients_);
-    // The form has enough at its natural size; the list takes what a large window has more.
-    splitter_->setStretchFactor(0, 0);
-    splitter_->setStretchFactor(1, 1);
-    setCentralWidget(splitter_);
-    setStatusBar(line_);
 }
 
 void frmTarlimo::connectParts() {
@@ -77,10 +62,17 @@ void frmTarlimo::connectParts() {
     connect(clients_, &ClientZone::rowClicked, this, &frmTarlimo::rowClicked);
     connect(clients_, &ClientZone::deletePressed, this,
             [this] { database_.cmdDel_Click(selected_.rekordszam, tabs_.yellowCheck.txNev); });
+    connect(clients_, &ClientZone::addPressed, &entry_, &ClientActions::cmdRogzit_Click);
+    connect(clients_, &ClientZone::modifyPressed, &entry_, &ClientActions::cmdModosit_Click);
+    connect(clients_, &ClientZone::amountsPressed, &entry_, &ClientActions::cmdOsszegek_Click);
     connect(clients_, &ClientZone::said, line_, &StatusLine::say);
     connect(clients_, &ClientZone::filled, line_, &StatusLine::showClientCount);
     connect(&database_, &DatabaseActions::changed, this, &frmTarlimo::clientsChanged);
     connect(&database_, &DatabaseActions::said, line_, &StatusLine::say);
+    connect(&entry_, &ClientActions::changed, this, &frmTarlimo::clientsChanged);
+    connect(&entry_, &ClientActions::said, line_, &StatusLine::say);
+    connect(&entry_, &ClientActions::amountsRead, SSTab1_, &TabStrip::showValues);
+    connect(&entry_, &ClientActions::closed, this, &frmTarlimo::activate);
     connect(line_, &StatusLine::fileWanted, this, [this](const QString& path) { services_.openDocument(path); });
     connect(panel_, &PrintPanel::deviceSelected, this, [this] {
         // From here on the device is the system's default one, until a routine selects another.
@@ -99,6 +91,7 @@ void frmTarlimo::connectParts() {
 void frmTarlimo::connectMenu() {
     onMenu(*menuBar(), "mnuKilep", this, &frmTarlimo::askAndClose);
     onMenu(*menuBar(), "mnuSetup", this, &frmTarlimo::showSetup);
+    onMenu(*menuBar(), "mnuUjcimzett", &entry_, &ClientActions::cmdRogzit_Click);
     onMenu(*menuBar(), "mnuAdatCsvbol", &database_, &DatabaseActions::mnuAdatCsvbol_Click);
     onMenu(*menuBar(), "mnuAdatbazisTorles", &database_, &DatabaseActions::mnuAdatbazisTorles_Click);
     onMenu(*menuBar(), "mnuImportHelp", this, [this] {
@@ -160,10 +153,11 @@ void frmTarlimo::rowClicked(int row) {
         return services_.prompts.tell(
             {Icon::information, titles::attention, u"A 32767. rekord utáni ügyfelek innen nem választhatók ki!"_s});
     selected_ = {number, {RecordFile<ClientRec>(folder_).read(number), RecordFile<TwinRec>(folder_).read(number)}};
-    clients_->enableDelete(true);
+    clients_->enableClientButtons(true);
     applyButtonRule();
     pourClient(tabs_, selected_.record, {readRecord<Set>(folder_), readRecord<SetRcsekk>(folder_)}, device_);
     SSTab1_->showValues();
+    entry_.clientClicked();
     // The click wrote the name, and a ticked search follows the name.
     if (tabs_.yellowCheck.Check1) searchList(tabs_.yellowCheck.txNev, number);
 }
@@ -180,15 +174,17 @@ void frmTarlimo::searchList(const QString& text, int keep) {
 }
 
 void frmTarlimo::clientsChanged(const ClientsChanged& change) {
-    if (change.what == ClientsChanged::removed) dropClient(tabs_.label, change.number);
-    if (change.what == ClientsChanged::replaced) clearCells(tabs_.label);
-    const bool nobodyHeld = change.what == ClientsChanged::removed || change.what == ClientsChanged::replaced;
-    if (nobodyHeld) {
+    followClients(tabs_.label, change, folder_);
+    entry_.clientsChanged(change);
+    if (change.movesNumbers()) {
         selected_ = {}; // no held number names the client that the window still shows
-        clients_->enableDelete(false);
+        clients_->enableClientButtons(false);
+    } else if (change.what == ClientsChanged::modified && change.number == selected_.rekordszam) {
+        selected_.record = readClient(folder_, change.number).value_or(selected_.record);
+        pourModified(tabs_, selected_.record, {readRecord<Set>(folder_), readRecord<SetRcsekk>(folder_)});
     }
-    clients_->Beolvas();
-    if (nobodyHeld) applyButtonRule();
+    clients_->Beolvas(selected_.rekordszam);
+    applyButtonRule();
     SSTab1_->showValues();
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "mainwindow/client_actions.h"
 #include "mainwindow/database_actions.h"
 #include "mainwindow/print_actions.h"
 #include "mainwindow/window_services.h"
@@ -10,6 +11,7 @@
 class ClientZone;
 class PrintPanel;
 class QSplitter;
+class QStackedWidget;
 class StatusLine;
 class TabStrip;
 
@@ -30,7 +32,6 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    void buildLayout();
     void connectParts();
     void connectMenu();
     void connectKeys();
@@ -58,12 +59,14 @@ private:
     SelectedClient selected_;
 
     TabStrip* SSTab1_;
-    QSplitter* splitter_;
     ClientZone* clients_;
     PrintPanel* panel_;
+    QStackedWidget* pane_; // the client list
+    QSplitter* splitter_;
     StatusLine* line_;
 
     WorkInProgress work_;
     DatabaseActions database_;
+    ClientActions entry_;
     PrintActions printing_;
 };

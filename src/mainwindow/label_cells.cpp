@@ -14,6 +14,10 @@ void freePlace(LabelTab& tab, std::size_t place) {
     tab.captions[place] = placeNumber(place);
 }
 
+QString nameOf(int recordNumber, const ProgramFolder& folder) {
+    return RecordFile<ClientRec>(folder).read(recordNumber).Nev.trimmed();
+}
+
 void showLines(LabelTab& tab, const std::array<QString, 5>& lines) {
     std::tie(tab.lbNev1, tab.lbNev2, tab.lbHelyseg, tab.lbCim, tab.lbIrsz) = std::tuple_cat(lines);
 }
@@ -29,7 +33,7 @@ void chkCimke1_Click(LabelTab& tab, std::size_t place, const SelectedClient& sel
         return freePlace(tab, place);
     }
     tab.cimkeRekord[place] = selected.rekordszam;
-    tab.captions[place] = RecordFile<ClientRec>(folder).read(selected.rekordszam).Nev.trimmed();
+    tab.captions[place] = nameOf(selected.rekordszam, folder);
 }
 
 QString placeTip(const LabelTab& tab, std::size_t place, const ProgramFolder& folder) {
@@ -40,13 +44,17 @@ QString placeTip(const LabelTab& tab, std::size_t place, const ProgramFolder& fo
         .join(u" - "_s);
 }
 
-void dropClient(LabelTab& tab, int recordNumber) {
+void followClients(LabelTab& tab, const ClientsChanged& change, const ProgramFolder& folder) {
+    if (change.what == ClientsChanged::replaced) return clearCells(tab);
     for (std::size_t place = 0; place < tab.cimkeRekord.size(); ++place) {
         int& client = tab.cimkeRekord[place];
-        if (client == recordNumber)
+        const bool isHis = client == change.number;
+        if (change.what == ClientsChanged::removed && isHis)
             freePlace(tab, place);
-        else if (client > recordNumber)
+        else if (change.what == ClientsChanged::removed && client > change.number)
             --client;
+        else if (change.what == ClientsChanged::modified && isHis)
+            tab.captions[place] = nameOf(client, folder);
     }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "clients/clients_changed.h"
 #include "mainwindow/form_context.h"
 #include "printing/form_tabs.h"
 
@@ -12,9 +13,9 @@ void chkCimke1_Click(LabelTab& tab, std::size_t place, const SelectedClient& sel
 // Who prints on a ticked place, from the client's record as it is now; empty for all other places.
 QString placeTip(const LabelTab& tab, std::size_t place, const ProgramFolder& folder);
 
-// Client `recordNumber` was deleted: its places are free again, and those of the clients behind it follow their
-// numbers.
-void dropClient(LabelTab& tab, int recordNumber);
+// The places follow their clients: one that was deleted frees its places and moves the numbers behind it, a modified
+// one shows its new name; where nobody is who he was, no place has a tick or a client any more.
+void followClients(LabelTab& tab, const ClientsChanged& change, const ProgramFolder& folder);
 // No place has a tick or a client any more.
 void clearCells(LabelTab& tab);
 // Places without a client show their numbers.

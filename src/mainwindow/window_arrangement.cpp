@@ -1,11 +1,15 @@
 #include "mainwindow/window_arrangement.h"
 
 #include "mainwindow/client_zone.h"
+#include "mainwindow/print_panel.h"
+#include "mainwindow/tab_strip.h"
 
 #include <QGuiApplication>
+#include <QHBoxLayout>
 #include <QScreen>
 #include <QSettings>
 #include <QSplitter>
+#include <QStackedWidget>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -29,6 +33,25 @@ void centre(QWidget& window) {
 }
 
 } // namespace
+
+QSplitter* arrange(const WindowParts& parts) {
+    auto* top = new QWidget;
+    auto* topLayout = new QHBoxLayout(top);
+    topLayout->setContentsMargins(0, 0, 0, 0);
+    topLayout->addWidget(parts.tabs, 1);
+    topLayout->addWidget(parts.panel);
+    parts.pane->addWidget(parts.clients);
+    auto* splitter = new QSplitter(Qt::Vertical);
+    splitter->setObjectName(u"splitter"_s);
+    splitter->setContentsMargins(8, 6, 8, 0);
+    splitter->setChildrenCollapsible(false);
+    splitter->addWidget(top);
+    splitter->addWidget(parts.pane);
+    // The form has enough at its natural size; the list takes what a large window has more.
+    splitter->setStretchFactor(0, 0);
+    splitter->setStretchFactor(1, 1);
+    return splitter;
+}
 
 void restoreArrangement(const ProgramFolder& folder, QWidget& window, QSplitter& splitter, ClientZone& clients) {
     const QSettings stored(path(folder), QSettings::IniFormat);

@@ -3,8 +3,20 @@
 #include "records/program_folder.h"
 
 class ClientZone;
+class PrintPanel;
 class QSplitter;
+class QStackedWidget;
 class QWidget;
+class TabStrip;
+
+// The parts of the window: tabs and print panel above, below them a pane that shows the client list at first.
+struct WindowParts {
+    TabStrip* tabs;
+    PrintPanel* panel;
+    ClientZone* clients;
+    QStackedWidget* pane;
+};
+QSplitter* arrange(const WindowParts& parts);
 
 // How the clerk has arranged the window: its place and size, the splitter and the widths of the list's columns. Kept in
 // a small file of its own, "ablak.ini", since nothing else depends on it.

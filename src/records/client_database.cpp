@@ -111,6 +111,14 @@ QByteArrayView bytesOf(const auto& record) {
 
 qint64 clientCount(const ProgramFolder& folder) { return RecordFile<ClientRec>(folder).count(); }
 
+std::optional<Client> readClient(const ProgramFolder& folder, qint64 number) {
+    RecordFile<ClientRec> clients(folder);
+    if (number < 1 || number > clients.count()) return std::nullopt;
+    Client client;
+    const bool isRead = clients.read(number, client.client) && RecordFile<TwinRec>(folder).read(number, client.twin);
+    return isRead ? std::optional(client) : std::nullopt;
+}
+
 std::optional<ClientPair> readClientPair(const ProgramFolder& folder) {
     if (!settle(PairPaths(folder))) return std::nullopt;
     std::optional<QByteArray> clients = wholeRecords<ClientRec>(folder);

@@ -27,6 +27,9 @@ struct ClientPair {
 // Number of clients.
 qint64 clientCount(const ProgramFolder& folder);
 
+// Client `number`, a twin that was never written as zeros. Nothing if there is no such client or it can't be read.
+std::optional<Client> readClient(const ProgramFolder& folder, qint64 number);
+
 // Reads each file once and brings the twins into step. Nothing if a file is there but can't be read.
 std::optional<ClientPair> readClientPair(const ProgramFolder& folder);
 

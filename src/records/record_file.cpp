@@ -12,10 +12,13 @@ RawRecordFile::RawRecordFile(const ProgramFolder& folder, const QString& fileNam
 
 qint64 RawRecordFile::count() const { return file_.isOpen() ? file_.size() / recordLength_ : 0; }
 
-void RawRecordFile::read(qint64 k, char* record) {
+bool RawRecordFile::read(qint64 k, char* record) {
     std::fill_n(record, recordLength_, '\0');
-    if (k < 1 || k > count() || !file_.seek((k - 1) * recordLength_)) return;
-    if (file_.read(record, recordLength_) != recordLength_) std::fill_n(record, recordLength_, '\0');
+    if (!file_.isOpen()) return false;
+    if (k < 1 || k > count()) return true;
+    if (file_.seek((k - 1) * recordLength_) && file_.read(record, recordLength_) == recordLength_) return true;
+    std::fill_n(record, recordLength_, '\0');
+    return false;
 }
 
 bool RawRecordFile::write(qint64 k, const char* record) {

@@ -19,8 +19,8 @@ public:
     qint64 count() const;
     // False for a write-protected file, and for one that could not be opened at all.
     bool isWritable() const { return file_.isWritable(); }
-    // Record k, or zeros beyond the end. The file is never made longer.
-    void read(qint64 k, char* record);
+    // Record k, or zeros beyond the end. The file is never made longer. False, and zeros, if it could not be read.
+    bool read(qint64 k, char* record);
     // Writing at count() + 1 appends, over an incomplete tail if there is one; farther out, the gap is filled with
     // NULs.
     bool write(qint64 k, const char* record);
@@ -51,6 +51,8 @@ public:
         file_.read(k, reinterpret_cast<char*>(&record));
         return record;
     }
+    // False, and zeros, if the record could not be read; one beyond the end reads as zeros.
+    bool read(qint64 k, Rec& record) { return file_.read(k, reinterpret_cast<char*>(&record)); }
     bool write(qint64 k, const Rec& record) { return file_.write(k, reinterpret_cast<const char*>(&record)); }
     QByteArray readAll() { return file_.readAll(); }
     void readAllInto(QByteArray& bytes) { file_.readAllInto(bytes); }

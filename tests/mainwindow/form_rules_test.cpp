@@ -126,7 +126,7 @@ TEST(LabelRules, OpeningTheTabShowsTheBoxesWithoutStoring) {
     EXPECT_EQ(joined({tab.txtSzeles, tab.captions[1], tab.captions[2]}), "50|Kiss Anna|3"); // who will print there
 }
 
-TEST(LabelRules, PlacesFollowTheirClientsThroughADeletion) {
+TEST(LabelRules, PlacesFollowTheirClients) {
     LabelTab tab;
     layOutSheet(tab);
     for (const std::size_t place : {0U, 1U, 2U}) {
@@ -134,11 +134,14 @@ TEST(LabelRules, PlacesFollowTheirClientsThroughADeletion) {
         tab.cimkeRekord[place] = static_cast<int>(place) + 4;
         tab.captions[place] = QStringLiteral("ügyfél");
     }
-    dropClient(tab, 5);
+    const TestFolder folder;
+    folder.store(clientNamed(QStringLiteral("Új Név")), 4);
+    followClients(tab, {ClientsChanged::removed, 5}, folder);
+    followClients(tab, {ClientsChanged::modified, 4}, folder);
     EXPECT_EQ(tab.cimkeRekord, (std::array<int, 40>{4, 0, 5}));
-    EXPECT_EQ(joined({tab.captions[1], tab.captions[2]}), "2|ügyfél");
+    EXPECT_EQ(joined({tab.captions[0], tab.captions[1], tab.captions[2]}), "Új Név|2|ügyfél");
     EXPECT_TRUE(tab.chkCimke1[0] && !tab.chkCimke1[1] && tab.chkCimke1[2]);
-    clearCells(tab);
+    followClients(tab, {ClientsChanged::replaced}, folder);
     EXPECT_EQ(tab.cimkeRekord, (std::array<int, 40>{}));
     EXPECT_EQ(tab.chkCimke1, (std::array<bool, 40>{}));
 }

@@ -1,6 +1,7 @@
 #include "settings/setup/catalogue_dialog.h"
 
 #include "controls/named.h"
+#include "controls/report_list.h"
 #include "prompts/titles.h"
 
 #include <QGridLayout>
@@ -8,8 +9,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QScrollBar>
-#include <QTreeWidget>
 
 namespace {
 
@@ -24,12 +23,8 @@ constexpr CatalogueHalf noticeHalves[] = {
      "ListView1", u"Közlemény szöveg"},
 };
 
-QTreeWidget* makeList(const CatalogueHalf& half) {
-    auto* list = named(new QTreeWidget, half.list);
-    list->setHeaderLabels({QString::fromUtf16(half.column), QStringLiteral("rec")});
-    list->setRootIsDecorated(false);
-    list->setUniformRowHeights(true);
-    list->setAlternatingRowColors(true);
+ReportList* makeList(const CatalogueHalf& half) {
+    auto* list = new ReportList(half.list, {QString::fromUtf16(half.column), QStringLiteral("rec")});
     const int letter = list->fontMetrics().averageCharWidth();
     list->header()->setStretchLastSection(false);
     list->header()->setSectionResizeMode(0, QHeaderView::Stretch);
@@ -54,14 +49,13 @@ private:
     void add();
     void remove();
     void tellRefused();
-    int pickedNumber() const;
 
     const Catalogue& catalogue_;
     const ProgramFolder& folder_;
     Prompts& prompts_;
     QLineEdit* box_;
     QPushButton* add_;
-    QTreeWidget* list_;
+    ReportList* list_;
     QPushButton* remove_;
 };
 
@@ -78,7 +72,7 @@ HalfView::HalfView(const CatalogueHalf& half, const ProgramFolder& folder, Promp
     connect(box_, &QLineEdit::textChanged, add_,
             [this](const QString& text) { add_->setEnabled(!trimBlanks(text).isEmpty()); });
     connect(box_, &QLineEdit::returnPressed, add_, &QPushButton::click);
-    connect(list_, &QTreeWidget::itemSelectionChanged, remove_, [this] { remove_->setEnabled(pickedNumber() > 0); });
+    connect(list_, &QTreeWidget::itemSelectionChanged, remove_, [this] { remove_->setEnabled(list_->picked() > 0); });
     connect(add_, &QPushButton::clicked, this, &HalfView::add);
     connect(remove_, &QPushButton::clicked, this, &HalfView::remove);
     load();
@@ -96,15 +90,13 @@ void HalfView::layOut(const CatalogueHalf& half) {
     grid->addWidget(remove_, 3, 0, 1, 2, Qt::AlignLeft);
 }
 
-// The list stays scrolled to where it was, but no row of it is picked any more.
 void HalfView::load() {
-    QList<QTreeWidgetItem*> rows;
-    for (const CatalogueEntry& entry : readEntries(folder_, catalogue_))
-        rows << new QTreeWidgetItem(QStringList{entry.Szoveg.trimmed(), QString::number(rows.size() + 1)});
-    const int scrolledTo = list_->verticalScrollBar()->value();
-    list_->clear();
-    list_->addTopLevelItems(rows);
-    list_->verticalScrollBar()->setValue(scrolledTo);
+    std::vector<ReportList::Row> rows;
+    for (qint64 number = 1; const CatalogueEntry& entry : readEntries(folder_, catalogue_)) {
+        rows.push_back({{entry.Szoveg.trimmed(), QString::number(number)}, number});
+        ++number;
+    }
+    list_->showRows(rows);
     remove_->setEnabled(false);
 }
 
@@ -117,7 +109,7 @@ void HalfView::add() {
 }
 
 void HalfView::remove() {
-    if (!removeEntry(folder_, catalogue_, pickedNumber())) return tellRefused();
+    if (!removeEntry(folder_, catalogue_, list_->picked())) return tellRefused();
     load();
 }
 
@@ -125,12 +117,6 @@ void HalfView::tellRefused() {
     prompts_.tell({Icon::critical, titles::error,
                    QStringLiteral("A listát nem sikerült módosítani!\n"
                                   "Ellenőrizd, hogy a program mappája írható-e!")});
-}
-
-// Record number of the row that is picked, 0 for none.
-int HalfView::pickedNumber() const {
-    const QList<QTreeWidgetItem*> picked = list_->selectedItems();
-    return picked.isEmpty() ? 0 : list_->indexOfTopLevelItem(picked.front()) + 1;
 }
 
 } // namespace

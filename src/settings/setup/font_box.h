@@ -1,8 +1,8 @@
 #pragma once
 
 #include "controls/entry_combo.h"
+#include "controls/warning_mark.h"
 #include "settings/setup/device_fonts.h"
-#include "settings/setup/warning_mark.h"
 
 class QLabel;
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "settings/setup/warning_mark.h"
+#include "controls/warning_mark.h"
 
 // What a box for one number makes of a text that is no number.
 enum class NumberRule {

@@ -1,4 +1,4 @@
-#include "settings/setup/warning_mark.h"
+#include "controls/warning_mark.h"
 
 #include <QEvent>
 
