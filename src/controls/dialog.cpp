@@ -37,6 +37,7 @@ void Dialog::place() {
 void Dialog::placeAt(const QPoint& corner) {
     const QRect screen = room();
     resize(sizeHint().boundedTo(screen.size()));
-    move(qBound(screen.left(), corner.x(), screen.right() - width()),
-         qBound(screen.top(), corner.y(), screen.bottom() - height()));
+    // The minimum of its content may make it larger than a small screen: then its corner is what must be seen.
+    move(qMax(screen.left(), qMin(corner.x(), screen.right() - width())),
+         qMax(screen.top(), qMin(corner.y(), screen.bottom() - height())));
 }

@@ -18,7 +18,7 @@ ClientActions::ClientActions(const Desk& desk)
     connect(addresses_, &AddressList::tried, entry_, &frmFelvet::choose);
     connect(addresses_, &AddressList::ended, this, [this] {
         showAddresses({});
-        entry_->takeFocus();
+        entry_->endChoice();
     });
 }
 

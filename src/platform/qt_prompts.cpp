@@ -41,7 +41,7 @@ void fill(QMessageBox& box, const Message& message) {
     box.setTextFormat(Qt::PlainText);
     box.setText(message.text);
     // A box is as wide as its text; a longer title would be cut by the window's frame.
-    constexpr int frameButtons = 90;
+    constexpr int frameButtons = 130;
     const int titleWidth = box.fontMetrics().horizontalAdvance(message.title) + frameButtons;
     static_cast<QGridLayout*>(box.layout())->addItem(new QSpacerItem(titleWidth, 0), 99, 0, 1, -1);
 }

@@ -194,9 +194,11 @@ TEST_F(EntryTest, LooksAddressesUpByEnter) {
     QTest::keyClick(&hits, Qt::Key_Down);
     EXPECT_EQ(boxes(), "||Győr|9003|||");
     QTest::keyClick(&hits, Qt::Key_Return);
+    enter("txBefizetoCim1"); // as one too many reaches the dialog
     EXPECT_FALSE(shown("frameCimKeres"));
-    type("txBefizetoCim1", u"Győr"_s);
+    QTest::qWait(QApplication::doubleClickInterval() + 10);
     enter("txBefizetoCim1");
+    EXPECT_TRUE(shown("frameCimKeres"));
     press("cmdListaRejt");
     EXPECT_FALSE(shown("frameCimKeres"));
     type("txBefizetoCim2", u"Nincs ilyen 12"_s);

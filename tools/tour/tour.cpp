@@ -73,6 +73,8 @@ int Tour::run() {
     check(QTest::qWaitForWindowExposed(window_.get()), QStringLiteral("the window opens"));
     shoot(QStringLiteral("01-indulas"));
     importClients();
+    enterClients();
+    keepAmounts();
     walkTabs();
     typeTexts();
     printForms("cmdPrint", QStringLiteral("egyes"), 1);

@@ -57,6 +57,10 @@ private:
     void print(const char* button, const QString& form, int pages);
 
     void importClients();
+    void enterClients();
+    void lookUp(const char* box, const QString& text, int row);
+    void saveEntry(int number, const QString& name);
+    void keepAmounts();
     void walkTabs();
     void layOverStationery(const QString& form, QPointF corner);
     void typeTexts();

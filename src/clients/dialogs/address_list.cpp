@@ -15,6 +15,7 @@ AddressList::AddressList(QWidget* parent)
                                          u"Hsz-ig"_s, u"Kerület"_s})) {
     setObjectName(u"frameCimKeres"_s);
     list_->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    list_->header()->setMinimumSectionSize(9 * list_->fontMetrics().averageCharWidth());
     list_->setToolTip(u"Nyilakkal vagy kattintással választható, ENTER vagy dupla kattintás fogadja el"_s);
     list_->installEventFilter(this);
     auto* hide = named(new QPushButton(u"Lista elrejtése"_s), "cmdListaRejt", u"Vissza a felvételhez (Esc)"_s);

@@ -4,6 +4,7 @@
 #include "controls/warning_mark.h"
 #include "prompts/messages.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -107,6 +108,7 @@ void frmFelvet::connectBox(const Box& box) {
             [mark, &box](const QString& text) { mark->show(storageWarning(text, box.width)); });
     connect(edit, &QLineEdit::textEdited, this, [this, edit] {
         isTouched_ = true;
+        sinceChoice_.invalidate();
         edit->setPlaceholderText({});
     });
     connect(edit, &QLineEdit::returnPressed, this, [this, &box] { enterPressed(box); });
@@ -156,6 +158,11 @@ void frmFelvet::takeFocus() {
     activateWindow();
 }
 
+void frmFelvet::endChoice() {
+    sinceChoice_.start();
+    takeFocus();
+}
+
 void frmFelvet::clientClicked(int number, const ClientEntry& stored) {
     if (!isVisible() || isHalfTyped()) return;
     fill(stored);
@@ -181,6 +188,8 @@ void frmFelvet::fill(const ClientEntry& entry) {
     }
     isTouched_ = false;
     foundStreet_.clear();
+    sinceChoice_.invalidate();
+    choice_ = {};
     Q_EMIT offered({});
 }
 
@@ -233,6 +242,7 @@ void frmFelvet::enterPressed(const Box& box) {
 
 void frmFelvet::lookUp(const Box& box) {
     if (foreign_->isChecked()) return; // the boxes mean something else
+    if (sinceChoice_.isValid() && !sinceChoice_.hasExpired(QApplication::doubleClickInterval())) return;
     const ClientEntry before = entry();
     if (box.search == searchStreet && !foundStreet_.isEmpty() && before.txBefizetoCim2 == foundStreet_) return;
     ClientEntry after = before;

@@ -5,6 +5,8 @@
 #include "controls/dialog.h"
 #include "prompts/prompts.h"
 
+#include <QElapsedTimer>
+
 #include <span>
 
 class QCheckBox;
@@ -32,8 +34,8 @@ public:
     void forgetClient() { number_ = 0; }
     // Fills in a row of the list that offered() told of.
     void choose(qint64 record);
-    // Back to the boxes from that list.
-    void takeFocus();
+    // That choice is over: back to the boxes. An ENTER that follows at once belonged to it.
+    void endChoice();
 
 Q_SIGNALS:
     // A client has been stored.
@@ -53,6 +55,7 @@ private:
     QWidget* buildBoxes();
     void connectBox(const Box& box);
     void openIn(FelvetelMod mode);
+    void takeFocus();
     bool isHalfTyped() const { return isVisible() && mode_ == FelvetelMod::add && isTouched_; }
 
     ClientEntry entry() const;
@@ -79,6 +82,7 @@ private:
     int number_ = 0;         // of the client whose texts the boxes hold
     bool isTouched_ = false; // the clerk has put something in since the boxes were filled
     AddressChoice choice_;
+    QElapsedTimer sinceChoice_;
     QString foundStreet_; // what a search wrote: not a bare street name, so not to be searched again
     std::vector<QLineEdit*> edits_;
     std::vector<QLabel*> labels_;

@@ -50,7 +50,6 @@ frmOsszegek::frmOsszegek(const ProgramFolder& folder, Prompts& prompts, int reko
 }
 
 void frmOsszegek::layOut() {
-    list_->headerItem()->setTextAlignment(1, Qt::AlignRight);
     list_->setMinimumHeight((slots + 2) * (list_->fontMetrics().height() + 5));
     auto* close = named(new QPushButton(u"&Bezár"_s), "cmdBezar");
     connect(close, &QPushButton::clicked, this, &QDialog::reject);
