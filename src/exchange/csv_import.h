@@ -1,12 +1,11 @@
 #pragma once
 
 #include "exchange/csv_clients.h"
+#include "exchange/progress.h"
 #include "records/program_folder.h"
 
 #include <QIODevice>
 #include <QStringList>
-
-#include <functional>
 
 // What becomes of the clients that are there already.
 enum class ImportMode { append, overwrite };
@@ -27,9 +26,6 @@ struct ImportOutcome {
 
 // A line for each of the first faults, in the user's words, and one that counts the rest; empty if there is none.
 QStringList faultLines(const ImportOutcome& outcome);
-
-// Called after each piece of a megabyte.
-using ProgressFn = std::function<void(qint64 bytesDone, qint64 bytesTotal)>;
 
 // Reads the clients of a text file into the database, which is replaced as one step at the end. UTF-8 is known by its
 // byte order mark or by being valid UTF-8 with letters beyond ASCII; anything else is Windows-1250. Memory doesn't grow

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "exchange/csv_export.h"
 #include "exchange/csv_import.h"
 #include "mainwindow/bound_view.h"
 
@@ -14,6 +15,7 @@ struct ClientsChanged {
     int number = 0;
 };
 
+class QMenuBar;
 class WorkInProgress;
 
 // What the menu and the buttons do to the client database as a whole, with the questions and messages that belong to
@@ -23,6 +25,8 @@ class DatabaseActions : public QObject {
 public:
     DatabaseActions(const ProgramFolder& folder, Prompts& prompts, WorkInProgress& work);
 
+    // Enables the entries of the menu that are carried out here.
+    void connectMenu(const QMenuBar& bar);
     // Finishes what a killed process left, and tells of that and of a folder that can't be written.
     void checkAtStart();
     // `shownName` is the name that the window shows; the question names the person of the record if the two differ.
@@ -30,16 +34,23 @@ public:
     void mnuAdatbazisTorles_Click();
     // Asks for the file and imports it in the mode of Set.dat.
     void mnuAdatCsvbol_Click();
+    // Asks for the file and exports to it.
+    void mnuMentCSVbe_Click();
 
 Q_SIGNALS:
     void changed(const ClientsChanged& change);
     // For the status line.
     void said(const QString& text);
+    // The same, with the path of a file in it.
+    void saidOfFile(const QString& text, const QString& file);
 
 private:
     ImportOutcome import(const QString& path, ImportMode mode);
     void tellImported(const ImportOutcome& outcome);
     void tellNotWritten();
+    ProgressFn shownProgress(const QString& work);
+    bool mayExportTo(const QString& path);
+    void tellExported(const QString& path, const ExportOutcome& outcome);
 
     const ProgramFolder& folder_;
     Prompts& prompts_;

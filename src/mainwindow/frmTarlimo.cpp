@@ -81,6 +81,7 @@ void frmTarlimo::connectParts() {
     connect(clients_, &ClientZone::filled, line_, &StatusLine::showClientCount);
     connect(&database_, &DatabaseActions::changed, this, &frmTarlimo::clientsChanged);
     connect(&database_, &DatabaseActions::said, line_, &StatusLine::say);
+    connect(&database_, &DatabaseActions::saidOfFile, line_, &StatusLine::sayWithLink);
     connect(line_, &StatusLine::fileWanted, this, [this](const QString& path) { services_.openDocument(path); });
     connect(panel_, &PrintPanel::deviceSelected, this, [this] {
         // From here on the device is the system's default one, until a routine selects another.
@@ -99,8 +100,7 @@ void frmTarlimo::connectParts() {
 void frmTarlimo::connectMenu() {
     onMenu(*menuBar(), "mnuKilep", this, &frmTarlimo::askAndClose);
     onMenu(*menuBar(), "mnuSetup", this, &frmTarlimo::showSetup);
-    onMenu(*menuBar(), "mnuAdatCsvbol", &database_, &DatabaseActions::mnuAdatCsvbol_Click);
-    onMenu(*menuBar(), "mnuAdatbazisTorles", &database_, &DatabaseActions::mnuAdatbazisTorles_Click);
+    database_.connectMenu(*menuBar());
     onMenu(*menuBar(), "mnuImportHelp", this, [this] {
         services_.openDocument(folder_.file(u"Csekk_adat_Import.htm"_s));
     }).setShortcut(Qt::Key_F1);
