@@ -37,6 +37,7 @@ DatabaseActions::DatabaseActions(const ProgramFolder& folder, Prompts& prompts, 
 
 void DatabaseActions::connectMenu(const QMenuBar& bar) {
     onMenu(bar, "mnuAdatCsvbol", this, &DatabaseActions::mnuAdatCsvbol_Click);
+    onMenu(bar, "mnuKonertal", this, &DatabaseActions::mnuKonertal_Click);
     onMenu(bar, "mnuMentCSVbe", this, &DatabaseActions::mnuMentCSVbe_Click);
     onMenu(bar, "mnuAdatbazisTorles", this, &DatabaseActions::mnuAdatbazisTorles_Click);
 }
@@ -182,5 +183,40 @@ void DatabaseActions::tellExported(const QString& path, const ExportOutcome& out
         return refuse(u"A fájl nem írható, vagy nincs elég hely. Ami eddig ott volt, nem változott."_s);
     case ExportOutcome::Result::brokenOff:
         return refuse(u"Az írás félbeszakadt, a fájl tartalma hibás."_s);
+    }
+}
+
+void DatabaseActions::mnuKonertal_Click() {
+    const QString question = u"Az adatbázis első konvertálása automatikus!\n"
+                             "Konvertálás után a régi adatbázis neve ''nevekR.dat'' néven mentésre kerül.\n"
+                             "Újabb konvertálás a régi adatbázis ''nevek1.dat'' névre való\n"
+                             "visszanevezése után lehetséges.\n"
+                             " \n"
+                             "Mehet a konvertálás?"_s;
+    if (!confirms(prompts_, titles::warning, question)) return;
+    const Conversion conversion = [&] {
+        const WaitCursor wait;
+        const WorkInProgress::Turn turn(work_);
+        return convertOlderDatabase(folder_);
+    }();
+    tellConverted(conversion);
+}
+
+void DatabaseActions::tellConverted(Conversion conversion) {
+    const auto refuse = [this](const QString& why) { prompts_.tell({Icon::warning, u"FIGYELEM!"_s, why}); };
+    switch (conversion) {
+    case Conversion::converted:
+        Q_EMIT changed({ClientsChanged::replaced});
+        Q_EMIT said(u"%1 ügyfél konvertálva."_s.arg(clientCount(folder_)));
+        return;
+    case Conversion::nothingThere:
+        return refuse(u"Nincsen elérhető konvertálandó fájl!\n"_s);
+    case Conversion::alreadyCurrent:
+        return refuse(u"A ''nevek1.dat'' már az új formátumú adatbázis,\nezért nem kell konvertálni!"_s);
+    case Conversion::copyExists:
+        return refuse(u"A ''nevekR.dat'' nevű mentés már létezik!\n"
+                      "Nevezze át vagy helyezze át, majd indítsa el újra a konvertálást."_s);
+    case Conversion::failed:
+        return refuse(u"A konvertálás nem sikerült, a régi adatbázis változatlan maradt."_s);
     }
 }

@@ -2,6 +2,7 @@
 
 #include "exchange/csv_export.h"
 #include "exchange/csv_import.h"
+#include "exchange/older_database.h"
 #include "mainwindow/bound_view.h"
 
 // What happened to the clients of the database. Record numbers that somebody holds follow it in one place.
@@ -36,6 +37,8 @@ public:
     void mnuAdatCsvbol_Click();
     // Asks for the file and exports to it.
     void mnuMentCSVbe_Click();
+    // Turns a database of the earlier version into the current one, after a question.
+    void mnuKonertal_Click();
 
 Q_SIGNALS:
     void changed(const ClientsChanged& change);
@@ -50,6 +53,7 @@ private:
     void tellNotWritten();
     ProgressFn shownProgress(const QString& work);
     bool mayExportTo(const QString& path);
+    void tellConverted(Conversion conversion);
     void tellExported(const QString& path, const ExportOutcome& outcome);
 
     const ProgramFolder& folder_;

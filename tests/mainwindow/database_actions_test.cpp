@@ -169,6 +169,36 @@ TEST_F(DatabaseWindow, ExportIntoTheWatchedFolderAsksFirst) {
                                             "Mehet a mentés?");
 }
 
+TEST_F(DatabaseWindow, ConversionTellsItsOutcome) {
+    const QByteArray older =
+        QByteArray("Szenes Iv\xE1n").leftJustified(125) + QByteArray(82, '\0') + QByteArray(30, ' ');
+    const struct {
+        QByteArray database;
+        Answer answer;
+        const char* told;
+        const char* rows;
+    } attempts[] = {
+        {older, Answer::no, "", "Kiss Anna|[Szűcs Ernő]|Nagy Béla"},
+        {older, Answer::yes, "", "Szenes Iván"},
+        {older, Answer::yes,
+         "FIGYELEM!|A ''nevekR.dat'' nevű mentés már létezik!\n"
+         "Nevezze át vagy helyezze át, majd indítsa el újra a konvertálást.",
+         "Szenes Iván"},
+        {files.bytes(QStringLiteral("nevek1.dat")), Answer::yes,
+         "FIGYELEM!|A ''nevek1.dat'' már az új formátumú adatbázis,\nezért nem kell konvertálni!", "Szenes Iván"},
+        {{}, Answer::yes, "FIGYELEM!|Nincsen elérhető konvertálandó fájl!\n", "Szenes Iván"},
+    };
+    for (const auto& attempt : attempts) {
+        files.setBytes(QStringLiteral("nevek1.dat"), attempt.database);
+        prompts.answers = {attempt.answer};
+        choose("mnuKonertal");
+        EXPECT_EQ(told(), attempt.told);
+        EXPECT_EQ(rows(), attempt.rows);
+    }
+    expectNobodyHeld();
+    EXPECT_EQ(status(), "1 ügyfél konvertálva.");
+}
+
 TEST_F(DatabaseWindow, TooLargeADatabaseIsToldLast) {
     for (const int count : {32766, 32767}) {
         files.store(clientNamed(QStringLiteral("Kiss Anna")), count);
