@@ -107,7 +107,7 @@ void DatabaseActions::mnuAdatCsvbol_Click() {
 ImportOutcome DatabaseActions::import(const QString& path, ImportMode mode) {
     const WaitCursor wait;
     const WorkInProgress::Turn turn(work_);
-    return importClients(path, folder_, mode, shownProgress(u"Beolvasás"_s));
+    return importClients(path, folder_, {mode}, shownProgress(u"Beolvasás"_s));
 }
 
 ProgressFn DatabaseActions::shownProgress(const QString& work) {

@@ -85,7 +85,7 @@ TEST_F(CsvExport, ComesBackThroughTheImportWithMarksExchanged) {
     files.store(client);
     files.store(twin);
     exportTo(u"ki.csv"_s);
-    importClients(files.folder().file(u"ki.csv"_s), files, ImportMode::append);
+    importClients(files.folder().file(u"ki.csv"_s), files, {ImportMode::append});
     const auto back = RecordFile<ClientRec>(files).read(2);
     EXPECT_EQ(std::memcmp(&client, &back, sizeof back), 0);
     const auto backTwin = RecordFile<TwinRec>(files).read(2);
