@@ -97,6 +97,7 @@ void DatabaseActions::mnuAdatCsvbol_Click() {
         return tellImported(outcome);
     case ImportOutcome::Result::empty:
         return refuse(u"A fájl üres"_s);
+    case ImportOutcome::Result::calledOff: // nobody does
     case ImportOutcome::Result::unreadable:
         return refuse(u"A fájl nem olvasható"_s);
     case ImportOutcome::Result::notWritten:

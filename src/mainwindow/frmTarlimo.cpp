@@ -36,7 +36,8 @@ frmTarlimo::frmTarlimo(const ProgramFolder& folder, const WindowServices& servic
     , line_(new StatusLine)
     , work_(*this, *line_)
     , database_(folder, services_.prompts, work_)
-    , printing_({folder_, services_, device_, tabs_, selected_, *clients_, *panel_, *line_, work_}) {
+    , printing_({folder_, services_, device_, tabs_, selected_, *clients_, *panel_, *line_, work_})
+    , watching_({*this, folder_, services_.prompts, printing_, *line_, work_}) {
     setObjectName(u"frmTarlimo"_s);
     buildLayout();
     buildMainMenu(*menuBar());
@@ -82,6 +83,8 @@ void frmTarlimo::connectParts() {
     connect(&database_, &DatabaseActions::changed, this, &frmTarlimo::clientsChanged);
     connect(&database_, &DatabaseActions::said, line_, &StatusLine::say);
     connect(&database_, &DatabaseActions::saidOfFile, line_, &StatusLine::sayWithLink);
+    connect(&watching_, &WatchActions::changed, this, &frmTarlimo::clientsChanged);
+    connect(&watching_, &WatchActions::dialogClosed, this, &frmTarlimo::activate);
     connect(line_, &StatusLine::fileWanted, this, [this](const QString& path) { services_.openDocument(path); });
     connect(panel_, &PrintPanel::deviceSelected, this, [this] {
         // From here on the device is the system's default one, until a routine selects another.
@@ -101,6 +104,7 @@ void frmTarlimo::connectMenu() {
     onMenu(*menuBar(), "mnuKilep", this, &frmTarlimo::askAndClose);
     onMenu(*menuBar(), "mnuSetup", this, &frmTarlimo::showSetup);
     database_.connectMenu(*menuBar());
+    watching_.connectMenu(*menuBar());
     onMenu(*menuBar(), "mnuImportHelp", this, [this] {
         services_.openDocument(folder_.file(u"Csekk_adat_Import.htm"_s));
     }).setShortcut(Qt::Key_F1);

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "mainwindow/database_actions.h"
 #include "mainwindow/print_actions.h"
+#include "mainwindow/watch_actions.h"
 #include "mainwindow/window_services.h"
 #include "mainwindow/work_in_progress.h"
 
@@ -66,4 +66,5 @@ private:
     WorkInProgress work_;
     DatabaseActions database_;
     PrintActions printing_;
+    WatchActions watching_;
 };
