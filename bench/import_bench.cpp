@@ -17,7 +17,7 @@ double timeOfImport(int clients) {
     settleDisk();
     qint64 imported = 0;
     const double seconds =
-        secondsOf([&] { imported = importClients(csv, scratch.folder(), ImportMode::overwrite).clients; });
+        secondsOf([&] { imported = importClients(csv, scratch.folder(), {ImportMode::overwrite}).clients; });
     if (imported != clients) qFatal("the import failed");
     return seconds;
 }

@@ -17,7 +17,7 @@ std::unique_ptr<ScratchFolder> filledFolder(int clients) {
     const QDir delivered(QStringLiteral(TARLIMO_PROGRAM_FOLDER));
     for (const QFileInfo& file : delivered.entryInfoList(QDir::Files))
         if (!file.isExecutable()) QFile::copy(file.filePath(), made->folder().file(file.fileName()));
-    const ImportOutcome outcome = importClients(sampleCsv(clients), made->folder(), ImportMode::overwrite);
+    const ImportOutcome outcome = importClients(sampleCsv(clients), made->folder(), {ImportMode::overwrite});
     if (outcome.clients != clients) giveUp(QStringLiteral("the sample clients could not be imported"));
     return made;
 }

@@ -30,6 +30,13 @@ const std::array<CsvColumn, 14> importColumns = {{
     {offsetof(Client, twin.SajatJelzes), sizeof(TwinRec::SajatJelzes), CsvRule::trimmed, u"az Ügyfél saját jelzése"},
 }};
 
+const std::array<CsvColumn, 10> watchColumns = [] {
+    std::array<CsvColumn, 10> columns;
+    std::copy_n(importColumns.begin(), columns.size(), columns.begin());
+    columns.back() = importColumns[10];
+    return columns;
+}();
+
 namespace {
 
 constexpr char noBreakSpace = '\xA0'; // in Windows-1250; programs put it between thousands
@@ -67,14 +74,15 @@ std::optional<std::int32_t> forints(QByteArrayView field) {
 
 } // namespace
 
-CsvClientReader::CsvClientReader(std::span<const CsvColumn> columns, Sink sink)
+CsvClientReader::CsvClientReader(std::span<const CsvColumn> columns, EmptyLine emptyLine, Sink sink)
     : columns_(columns)
+    , emptyLine_(emptyLine)
     , sink_(std::move(sink))
     , client_(blankClient()) {}
 
 void CsvClientReader::feed(QByteArrayView text) {
     const char* at = text.begin();
-    while (at != text.end()) {
+    while (at != text.end() && !hasEnded_) {
         const char* mark = std::find_if(at, text.end(), [](char c) { return isMark[static_cast<unsigned char>(c)]; });
         if (mark != at) takeText({at, mark});
         if (mark == text.end()) return;
@@ -90,11 +98,17 @@ void CsvClientReader::finish() {
 void CsvClientReader::takeMark(char mark) {
     if (mark == '\r' || mark == '\n') {
         const bool endsCrLf = mark == '\n' && lastWasCr_;
-        if (!endsCrLf) endLine();
+        if (!endsCrLf && !lineHasBegun_ && emptyLine_ == EmptyLine::end)
+            hasEnded_ = true;
+        else if (!endsCrLf)
+            endLine();
         lastWasCr_ = mark == '\r';
         return;
     }
-    if (mark == '\0') return takeText(" ");
+    if (mark == '\0') {
+        hasSeenNul_ = true;
+        return takeText(" ");
+    }
     lineHasBegun_ = true;
     lastWasCr_ = false;
     if (mark == ';') endField();

@@ -27,6 +27,14 @@ struct CsvColumn {
 
 // The columns of the manual import, in the order of the file.
 extern const std::array<CsvColumn, 14> importColumns;
+// Those of the watched folder: the same up to the ninth, and the kind of document in the tenth.
+extern const std::array<CsvColumn, 10> watchColumns;
+
+// What a line without a single character is.
+enum class EmptyLine {
+    client, // of empty fields
+    end     // of the file: what lies behind it isn't read. The end of the last line is no line.
+};
 
 // A place of the text that could not be stored as it stands: an amount that is none, stored as 0, or a text that was
 // longer than its field.
@@ -52,13 +60,17 @@ class CsvClientReader {
 public:
     using Sink = std::function<void(const Client&)>;
 
-    CsvClientReader(std::span<const CsvColumn> columns, Sink sink);
+    CsvClientReader(std::span<const CsvColumn> columns, EmptyLine emptyLine, Sink sink);
 
     void feed(QByteArrayView text);
     // Takes a last line that has no end.
     void finish();
 
     const CsvFaults& faults() const { return faults_; }
+    // Whether an empty line has ended the reading.
+    bool hasEnded() const { return hasEnded_; }
+    // Text files have none, but the file of a spreadsheet or a picture does.
+    bool hasSeenNul() const { return hasSeenNul_; }
 
 private:
     void takeText(QByteArrayView text);
@@ -70,6 +82,7 @@ private:
     void endLine();
 
     std::span<const CsvColumn> columns_;
+    EmptyLine emptyLine_;
     Sink sink_;
     Client client_;
     std::size_t column_ = 0;
@@ -78,6 +91,8 @@ private:
     std::array<char, 40> amount_{}; // full: too long for an amount
     bool lineHasBegun_ = false;
     bool lastWasCr_ = false;
+    bool hasEnded_ = false;
+    bool hasSeenNul_ = false;
     qint64 line_ = 1;
     CsvFaults faults_;
 };

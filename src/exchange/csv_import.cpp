@@ -50,42 +50,59 @@ bool readClients(QIODevice& csv, Encoding encoding, CsvClientReader& reader, con
         else
             reader.feed(piece);
         if (progress) progress(csv.pos(), csv.size());
-        return true;
+        return !reader.hasEnded();
     });
     reader.finish();
     return wholeRead;
 }
 
+void addFaults(const CsvClientReader& reader, ImportOutcome& outcome) {
+    const CsvFaults& faults = reader.faults();
+    outcome.badAmounts = faults.badAmounts;
+    outcome.cutTexts = faults.cutTexts;
+    outcome.firstFaults = faults.first;
+    outcome.endedAtEmptyLine = reader.hasEnded();
+    outcome.holdsNul = reader.hasSeenNul();
+}
+
 } // namespace
 
-ImportOutcome importClients(const QString& path, const ProgramFolder& folder, ImportMode mode,
+ImportOutcome importClients(const QString& path, const ProgramFolder& folder, const ImportWay& way,
                             const ProgressFn& progress) {
     // A plain file only: a device or a pipe has no end that could be waited for.
     QFile csv(path);
     if (!QFileInfo(path).isFile() || !csv.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) return {};
-    return importClients(csv, folder, mode, progress);
+    return importClients(csv, folder, way, progress);
 }
 
-ImportOutcome importClients(QIODevice& csv, const ProgramFolder& folder, ImportMode mode, const ProgressFn& progress) {
+ImportOutcome importClients(QIODevice& csv, const ProgramFolder& folder, const ImportWay& way,
+                            const ProgressFn& progress) {
     const std::optional<Encoding> encoding = findEncoding(csv);
     if (!encoding) return {};
 
     ClientReplacement replacement(folder);
-    if (mode == ImportMode::append) {
+    if (way.mode == ImportMode::append) {
         const std::optional<ClientPair> present = readClientPair(folder);
         if (!present) return {Result::notWritten};
         replacement.append(present->clients, present->twins);
     }
-    qint64 clients = 0;
-    CsvClientReader reader(importColumns, [&](const Client& client) {
+    ImportOutcome outcome;
+    CsvClientReader reader(way.columns, way.emptyLine, [&](const Client& client) {
         replacement.append(client);
-        ++clients;
+        ++outcome.clients;
+        if (client.client.Osszegek[0] == 0) ++outcome.withoutAmount;
     });
     if (!readClients(csv, *encoding, reader, progress)) return {};
-    if (clients == 0) return {Result::empty};
-    const Result result = replacement.commit() ? Result::imported : Result::notWritten;
-    const CsvFaults& faults = reader.faults();
-    return {result, clients, faults.badAmounts, faults.cutTexts, faults.first};
+    if (outcome.clients == 0) return {Result::empty};
+    addFaults(reader, outcome);
+    CommitExtras extras;
+    if (way.confirm) {
+        const std::optional<QByteArray> notes = way.confirm(outcome);
+        if (!notes) return {Result::calledOff};
+        extras.importNotes = *notes;
+    }
+    outcome.result = replacement.commit(extras) ? Result::imported : Result::notWritten;
+    return outcome;
 }
 
 QStringList faultLines(const ImportOutcome& outcome) {

@@ -1,5 +1,7 @@
 #include "mainwindow/database_actions.h"
 
+#include "exchange/watched_folder.h"
+#include "mainwindow/main_menu.h"
 #include "mainwindow/work_in_progress.h"
 #include "prompts/messages.h"
 #include "settings/general_settings.h"
@@ -32,6 +34,13 @@ DatabaseActions::DatabaseActions(const ProgramFolder& folder, Prompts& prompts, 
     : folder_(folder)
     , prompts_(prompts)
     , work_(work) {}
+
+void DatabaseActions::connectMenu(const QMenuBar& bar) {
+    onMenu(bar, "mnuAdatCsvbol", this, &DatabaseActions::mnuAdatCsvbol_Click);
+    onMenu(bar, "mnuKonertal", this, &DatabaseActions::mnuKonertal_Click);
+    onMenu(bar, "mnuMentCSVbe", this, &DatabaseActions::mnuMentCSVbe_Click);
+    onMenu(bar, "mnuAdatbazisTorles", this, &DatabaseActions::mnuAdatbazisTorles_Click);
+}
 
 void DatabaseActions::checkAtStart() {
     if (!finishInterruptedCommit(folder_))
@@ -87,6 +96,7 @@ void DatabaseActions::mnuAdatCsvbol_Click() {
         return tellImported(outcome);
     case ImportOutcome::Result::empty:
         return refuse(u"A fájl üres"_s);
+    case ImportOutcome::Result::calledOff: // nobody does
     case ImportOutcome::Result::unreadable:
         return refuse(u"A fájl nem olvasható"_s);
     case ImportOutcome::Result::notWritten:
@@ -97,10 +107,14 @@ void DatabaseActions::mnuAdatCsvbol_Click() {
 ImportOutcome DatabaseActions::import(const QString& path, ImportMode mode) {
     const WaitCursor wait;
     const WorkInProgress::Turn turn(work_);
-    return importClients(path, folder_, mode, [this](qint64 done, qint64 total) {
+    return importClients(path, folder_, {mode}, shownProgress(u"Beolvasás"_s));
+}
+
+ProgressFn DatabaseActions::shownProgress(const QString& work) {
+    return [this, work](qint64 done, qint64 total) {
         const qint64 percent = total > 0 ? done * 100 / total : 0;
-        work_.step(done, total, u"Beolvasás: %1 %…"_s.arg(percent), WorkInProgress::Cancel::impossible);
-    });
+        work_.step(done, total, u"%1: %2 %…"_s.arg(work).arg(percent), WorkInProgress::Cancel::impossible);
+    };
 }
 
 // The closing messages, once the list stands.
@@ -126,4 +140,79 @@ void DatabaseActions::tellImported(const ImportOutcome& outcome) {
         prompts_.tell({Icon::information, titles::attention,
                        u"Az adatbázis 32767-nél több ügyfelet tartalmaz,\n"
                        "a többi a listából nem választható ki!"_s});
+}
+
+void DatabaseActions::mnuMentCSVbe_Click() {
+    const QString filter = u"*.csv"_s;
+    const QString path = prompts_.saveFile(u"Adatbázis mentése CSV fájlba"_s, filter);
+    if (path.isEmpty() || path == filter || !mayExportTo(path)) return;
+    const ExportOutcome outcome = [&] {
+        const WaitCursor wait;
+        const WorkInProgress::Turn turn(work_);
+        return exportClients(path, folder_, shownProgress(u"Mentés"_s));
+    }();
+    tellExported(path, outcome);
+}
+
+bool DatabaseActions::mayExportTo(const QString& path) {
+    if (!liesInWatchedFolder(path, WatchSettings(readRecord<Set>(folder_)))) return true;
+    return confirms(prompts_, titles::attention,
+                    u"Ez a figyelt mappa, a program a fájlt beolvassa és törli!\n\nMehet a mentés?"_s);
+}
+
+void DatabaseActions::tellExported(const QString& path, const ExportOutcome& outcome) {
+    const auto refuse = [&](const QString& why) {
+        prompts_.tell({Icon::warning, titles::warning, u"A mentés nem sikerült:\n%1\n\n"_s.arg(path) + why});
+    };
+    switch (outcome.result) {
+    case ExportOutcome::Result::written:
+        Q_EMIT saidOfFile(u"%1 ügyfél mentve: %2"_s.arg(outcome.clients).arg(path), path);
+        if (outcome.hasOldLines)
+            prompts_.tell({Icon::information, titles::attention,
+                           u"A választott fájl hosszabb volt, a végén régi sorok maradtak!"_s});
+        return;
+    case ExportOutcome::Result::ownFile:
+        return refuse(u"Ez a program saját adatfájlja, nem írható felül."_s);
+    case ExportOutcome::Result::unreadable:
+        return refuse(u"Az adatbázis nem olvasható. A fájl nem változott."_s);
+    case ExportOutcome::Result::notWritten:
+        return refuse(u"A fájl nem írható, vagy nincs elég hely. Ami eddig ott volt, nem változott."_s);
+    case ExportOutcome::Result::brokenOff:
+        return refuse(u"Az írás félbeszakadt, a fájl tartalma hibás."_s);
+    }
+}
+
+void DatabaseActions::mnuKonertal_Click() {
+    const QString question = u"Az adatbázis első konvertálása automatikus!\n"
+                             "Konvertálás után a régi adatbázis neve ''nevekR.dat'' néven mentésre kerül.\n"
+                             "Újabb konvertálás a régi adatbázis ''nevek1.dat'' névre való\n"
+                             "visszanevezése után lehetséges.\n"
+                             " \n"
+                             "Mehet a konvertálás?"_s;
+    if (!confirms(prompts_, titles::warning, question)) return;
+    const Conversion conversion = [&] {
+        const WaitCursor wait;
+        const WorkInProgress::Turn turn(work_);
+        return convertOlderDatabase(folder_);
+    }();
+    tellConverted(conversion);
+}
+
+void DatabaseActions::tellConverted(Conversion conversion) {
+    const auto refuse = [this](const QString& why) { prompts_.tell({Icon::warning, u"FIGYELEM!"_s, why}); };
+    switch (conversion) {
+    case Conversion::converted:
+        Q_EMIT changed({ClientsChanged::replaced});
+        Q_EMIT said(u"%1 ügyfél konvertálva."_s.arg(clientCount(folder_)));
+        return;
+    case Conversion::nothingThere:
+        return refuse(u"Nincsen elérhető konvertálandó fájl!\n"_s);
+    case Conversion::alreadyCurrent:
+        return refuse(u"A ''nevek1.dat'' már az új formátumú adatbázis,\nezért nem kell konvertálni!"_s);
+    case Conversion::copyExists:
+        return refuse(u"A ''nevekR.dat'' nevű mentés már létezik!\n"
+                      "Nevezze át vagy helyezze át, majd indítsa el újra a konvertálást."_s);
+    case Conversion::failed:
+        return refuse(u"A konvertálás nem sikerült, a régi adatbázis változatlan maradt."_s);
+    }
 }

@@ -38,7 +38,8 @@ frmTarlimo::frmTarlimo(const ProgramFolder& folder, const WindowServices& servic
     , work_(*this, *line_)
     , database_(folder, services_.prompts, work_)
     , entry_({folder_, services_.prompts, tabs_, selected_, *this, *pane_})
-    , printing_({folder_, services_, device_, tabs_, selected_, *clients_, *panel_, *line_, work_}) {
+    , printing_({folder_, services_, device_, tabs_, selected_, *clients_, *panel_, *line_, work_})
+    , watching_({*this, folder_, services_.prompts, printing_, *line_, work_}) {
     setObjectName(u"frmTarlimo"_s);
     setCentralWidget(splitter_);
     setStatusBar(line_);
@@ -73,6 +74,9 @@ void frmTarlimo::connectParts() {
     connect(&entry_, &ClientActions::said, line_, &StatusLine::say);
     connect(&entry_, &ClientActions::amountsRead, SSTab1_, &TabStrip::showValues);
     connect(&entry_, &ClientActions::closed, this, &frmTarlimo::activate);
+    connect(&database_, &DatabaseActions::saidOfFile, line_, &StatusLine::sayWithLink);
+    connect(&watching_, &WatchActions::changed, this, &frmTarlimo::clientsChanged);
+    connect(&watching_, &WatchActions::dialogClosed, this, &frmTarlimo::activate);
     connect(line_, &StatusLine::fileWanted, this, [this](const QString& path) { services_.openDocument(path); });
     connect(panel_, &PrintPanel::deviceSelected, this, [this] {
         // From here on the device is the system's default one, until a routine selects another.
@@ -92,8 +96,8 @@ void frmTarlimo::connectMenu() {
     onMenu(*menuBar(), "mnuKilep", this, &frmTarlimo::askAndClose);
     onMenu(*menuBar(), "mnuSetup", this, &frmTarlimo::showSetup);
     onMenu(*menuBar(), "mnuUjcimzett", &entry_, &ClientActions::cmdRogzit_Click);
-    onMenu(*menuBar(), "mnuAdatCsvbol", &database_, &DatabaseActions::mnuAdatCsvbol_Click);
-    onMenu(*menuBar(), "mnuAdatbazisTorles", &database_, &DatabaseActions::mnuAdatbazisTorles_Click);
+    database_.connectMenu(*menuBar());
+    watching_.connectMenu(*menuBar());
     onMenu(*menuBar(), "mnuImportHelp", this, [this] {
         services_.openDocument(folder_.file(u"Csekk_adat_Import.htm"_s));
     }).setShortcut(Qt::Key_F1);

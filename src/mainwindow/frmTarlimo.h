@@ -1,8 +1,8 @@
 #pragma once
 
 #include "mainwindow/client_actions.h"
-#include "mainwindow/database_actions.h"
 #include "mainwindow/print_actions.h"
+#include "mainwindow/watch_actions.h"
 #include "mainwindow/window_services.h"
 #include "mainwindow/work_in_progress.h"
 
@@ -69,4 +69,5 @@ private:
     DatabaseActions database_;
     ClientActions entry_;
     PrintActions printing_;
+    WatchActions watching_;
 };

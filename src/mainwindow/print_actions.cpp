@@ -4,6 +4,7 @@
 #include "mainwindow/print_panel.h"
 #include "mainwindow/status_line.h"
 #include "mainwindow/work_in_progress.h"
+#include "printing/yellow_check.h"
 #include "records/number_text.h"
 
 #include <QApplication>
@@ -25,15 +26,28 @@ void PrintActions::press(Press press, Tab tab) {
     if (focus) focus->setFocus(); // a disabled button has passed it on
 }
 
-PrintOutcome PrintActions::print(const PrintRequest& request) {
-    const WorkInProgress::Turn turn(desk_.work);
-    // One bar for both stages: the pages are written in its first half and handed over in the second.
-    const auto progress = [this](const PagesDone& pages) {
+void PrintActions::printUnattended() {
+    const PrintOutcome outcome = [this] {
+        const WorkInProgress::Turn turn(desk_.work);
+        const PrintDesk desk{desk_.device, desk_.services.prompts, desk_.folder, false, shownProgress(), {}};
+        return PrintCsAlloCsekk(desk, desk_.tabs, desk_.clients.rows());
+    }();
+    report(outcome);
+    Q_EMIT printed(Tab::yellowCheck);
+}
+
+// One bar for both stages: the pages are written in its first half and handed over in the second.
+PageProgress PrintActions::shownProgress() {
+    return [this](const PagesDone& pages) {
         const int before = pages.stage == PrintStage::handingOver ? pages.pages : 0;
         return desk_.work.step(before + pages.done, 2 * pages.pages,
                                u"%1. lap / %2…"_s.arg(pages.done).arg(pages.pages),
                                pages.canCancel ? WorkInProgress::Cancel::possible : WorkInProgress::Cancel::impossible);
     };
+}
+
+PrintOutcome PrintActions::print(const PrintRequest& request) {
+    const WorkInProgress::Turn turn(desk_.work);
     const ListRows rows = desk_.clients.rows();
     std::size_t takenOut = 0;
     const auto takeSelectedOut = [&] {
@@ -41,8 +55,8 @@ PrintOutcome PrintActions::print(const PrintRequest& request) {
         takenOut = rows.selected.size();
     };
     PrintOutcome outcome =
-        dispatchPrint({desk_.device, desk_.services.prompts, desk_.folder, true, progress, takeSelectedOut}, desk_.tabs,
-                      request, rows, desk_.selected.record.client.Nev.trimmed());
+        dispatchPrint({desk_.device, desk_.services.prompts, desk_.folder, true, shownProgress(), takeSelectedOut},
+                      desk_.tabs, request, rows, desk_.selected.record.client.Nev.trimmed());
     if (takenOut > 0) outcome.trouble.prepend(u"%1 sor levéve a listáról. "_s.arg(takenOut));
     return outcome;
 }

@@ -29,6 +29,8 @@ public:
 
     // Prints the form of `tab` once or for each selected client. The focus stays where it was.
     void press(Press press, Tab tab);
+    // Prints a yellow check for each client of the list, with no dialog and no question.
+    void printUnattended();
 
 Q_SIGNALS:
     // A press has been carried out, whatever came of it.
@@ -36,6 +38,7 @@ Q_SIGNALS:
 
 private:
     PrintOutcome print(const PrintRequest& request);
+    PageProgress shownProgress();
     QString amountTrouble(const PrintRequest& request) const;
     void report(const PrintOutcome& outcome);
 

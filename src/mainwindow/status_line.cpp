@@ -1,5 +1,7 @@
 #include "mainwindow/status_line.h"
 
+#include "controls/named.h"
+
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
@@ -11,7 +13,8 @@ StatusLine::StatusLine(QWidget* parent)
     , message_(new QLabel)
     , bar_(new QProgressBar)
     , cancel_(new QPushButton(u"Mégse"_s))
-    , count_(new QLabel) {
+    , count_(new QLabel)
+    , watch_(new QLabel) {
     message_->setObjectName(u"lbAllapot"_s);
     message_->setTextFormat(Qt::RichText);
     message_->setMargin(2);
@@ -23,10 +26,13 @@ StatusLine::StatusLine(QWidget* parent)
     cancel_->setToolTip(u"A munka megszakítása (Esc)"_s);
     cancel_->setFocusPolicy(Qt::NoFocus);
     count_->setObjectName(u"lbUgyfelekSzama"_s);
+    watch_->setObjectName(u"lbFigyelo"_s);
+    watch_->setTextFormat(Qt::PlainText);
     addPermanentWidget(message_, 1);
-    for (QWidget* widget : std::initializer_list<QWidget*>{bar_, cancel_, count_})
+    for (QWidget* widget : std::initializer_list<QWidget*>{bar_, cancel_, count_, watch_})
         addPermanentWidget(widget);
     hideProgress();
+    watch_->hide();
 
     connect(message_, &QLabel::linkActivated, this, &StatusLine::fileWanted);
     connect(cancel_, &QPushButton::clicked, this, &StatusLine::cancelPressed);
@@ -47,6 +53,18 @@ void StatusLine::sayWithLink(const QString& text, const QString& file) {
 }
 
 void StatusLine::showClientCount(qint64 count) { count_->setText(u"%1 ügyfél"_s.arg(count)); }
+
+void StatusLine::showWatch(const QString& folder, const QString& outcome) {
+    const QFontMetrics metrics = watch_->fontMetrics();
+    const int letter = metrics.averageCharWidth();
+    // The end of a path says more than its beginning.
+    const QString end = metrics.elidedText(folder, Qt::ElideLeft, 30 * letter);
+    const QString text =
+        outcome.isEmpty() ? QString() : u"  "_s + metrics.elidedText(outcome, Qt::ElideRight, 50 * letter);
+    watch_->setText(u"Figyelt mappa: "_s + end + text);
+    watch_->setToolTip(plainToolTip(folder + (outcome.isEmpty() ? QString() : u'\n' + outcome)));
+    watch_->setVisible(!folder.isEmpty());
+}
 
 void StatusLine::showProgress(qint64 done, qint64 total, bool cancellable) {
     constexpr int steps = 1000;

@@ -7,7 +7,7 @@ class QProgressBar;
 class QPushButton;
 
 // The status line: at the left what the last action came to, in the middle the progress of a long one, at the right the
-// number of clients in the database.
+// number of clients in the database and, while there is one, the watched folder.
 class StatusLine : public QStatusBar {
     Q_OBJECT
 public:
@@ -17,6 +17,9 @@ public:
     // A text that holds the full path of `file`, which is a link there.
     void sayWithLink(const QString& text, const QString& file);
     void showClientCount(qint64 count);
+    // The watched folder and what it came to last, cut to a part of the line; the tooltip has them whole. Nothing is on
+    // view for an empty folder.
+    void showWatch(const QString& folder, const QString& outcome);
 
     // A bar of `done` in `total`, with a "Mégse" beside it that takes clicks while `cancellable`.
     void showProgress(qint64 done, qint64 total, bool cancellable);
@@ -36,5 +39,6 @@ private:
     QProgressBar* bar_;
     QPushButton* cancel_;
     QLabel* count_;
+    QLabel* watch_;
     QString file_;
 };

@@ -6,9 +6,10 @@
 
 // How the pair is replaced as one step. The new files are written whole and flushed under names of their own; then the
 // marker, which holds their sizes, is written: the point of no return. Then
-//     nevek1.dat -> nevek1.regi, nevx.dat -> nevek1.dat, xxkoz.dat -> kozl3sor.dat,
-// the marker goes, and nevek1.regi after it. A start that finds the marker goes on from wherever a kill came. Without a
-// marker new files are never used, whoever left them.
+//     nevek1.dat -> nevek1.regi, nevx.dat -> nevek1.dat, xxkoz.dat -> kozl3sor.dat, figyelt.uj -> figyelt.lst,
+// the marker goes, and nevek1.regi after it. A name to keep the old clients under takes the place of nevek1.regi,
+// stands in the marker, and stays. A start that finds the marker goes on from wherever a kill came. Without a marker
+// new files are never used, whoever left them.
 //
 // nevek1.regi is there for a rename that the system refuses half-way (Windows does while another program has the file
 // open): as long as the twins are the old ones, the old clients can be put back.
@@ -20,16 +21,21 @@ constexpr qsizetype twinLength = sizeof(TwinRec);
 constexpr qsizetype bufferSize = 1 << 20;
 
 struct PairPaths {
-    explicit PairPaths(const ProgramFolder& folder)
+    explicit PairPaths(const ProgramFolder& folder, const QString& keptName = {})
         : clients(folder.file(QString::fromLatin1(ClientRec::fileName)))
         , twins(folder.file(QString::fromLatin1(TwinRec::fileName)))
         , nextClients(folder.file(QStringLiteral("nevx.dat")))
         , nextTwins(folder.file(QStringLiteral("xxkoz.dat")))
-        , previousClients(folder.file(QStringLiteral("nevek1.regi")))
+        , notes(folder.file(QString::fromLatin1(importNotesFile)))
+        , nextNotes(folder.file(QStringLiteral("figyelt.uj")))
+        , kept(keptName)
+        , previousClients(folder.file(kept.isEmpty() ? QStringLiteral("nevek1.regi") : kept))
         , marker(folder.file(QStringLiteral("csere.kesz"))) {}
 
     QString clients, twins;
     QString nextClients, nextTwins;
+    QString notes, nextNotes;
+    QString kept; // a name
     QString previousClients;
     QString marker;
 };
@@ -39,7 +45,8 @@ bool isGone(const QString& path) { return QFile::remove(path) || !QFile::exists(
 bool writeMarker(const PairPaths& paths) {
     const qint64 clientBytes = QFileInfo(paths.nextClients).size();
     const qint64 twinBytes = QFileInfo(paths.nextTwins).size();
-    return replaceFile(paths.marker, QByteArray::number(clientBytes) + ' ' + QByteArray::number(twinBytes) + '\n');
+    return replaceFile(paths.marker, QByteArray::number(clientBytes) + ' ' + QByteArray::number(twinBytes) + ' ' +
+                                         paths.kept.toUtf8() + '\n');
 }
 
 // A new file waits in full length, or is in its place already.
@@ -48,12 +55,22 @@ bool isReady(const QString& next, const QString& current, const QByteArray& mark
     return file.isFile() && QByteArray::number(file.size()) == markedSize;
 }
 
-bool newPairIsWhole(const PairPaths& paths) {
+// Both sizes and the name that is kept, if there is one.
+QList<QByteArray> markerWords(const PairPaths& paths) {
     QFile marker(paths.marker);
-    if (!marker.open(QIODevice::ReadOnly)) return false;
-    const QList<QByteArray> sizes = marker.read(64).trimmed().split(' ');
-    return sizes.size() == 2 && isReady(paths.nextClients, paths.clients, sizes[0]) &&
-           isReady(paths.nextTwins, paths.twins, sizes[1]);
+    if (!marker.open(QIODevice::ReadOnly)) return {};
+    return marker.read(256).trimmed().split(' ');
+}
+
+// The names that the last commit worked with.
+PairPaths markedPaths(const ProgramFolder& folder) {
+    return PairPaths(folder, QString::fromUtf8(markerWords(PairPaths(folder)).value(2)));
+}
+
+bool newPairIsWhole(const PairPaths& paths) {
+    const QList<QByteArray> words = markerWords(paths);
+    return words.size() >= 2 && isReady(paths.nextClients, paths.clients, words[0]) &&
+           isReady(paths.nextTwins, paths.twins, words[1]);
 }
 
 // Each step passes over what an earlier, killed run has done.
@@ -64,7 +81,10 @@ bool putNewPairInPlace(const PairPaths& paths) {
             return false;
         if (!moveOnto(paths.nextClients, paths.clients)) return false;
     }
-    return !QFile::exists(paths.nextTwins) || moveOnto(paths.nextTwins, paths.twins);
+    if (QFile::exists(paths.nextTwins) && !moveOnto(paths.nextTwins, paths.twins)) return false;
+    // The new pair stands by now, whatever becomes of the notes.
+    if (QFile::exists(paths.nextNotes)) (void)moveOnto(paths.nextNotes, paths.notes);
+    return true;
 }
 
 bool putOldClientsBack(const PairPaths& paths) {
@@ -76,8 +96,9 @@ bool putOldClientsBack(const PairPaths& paths) {
 void removeLeftovers(const PairPaths& paths) {
     QFile::remove(paths.nextClients);
     QFile::remove(paths.nextTwins);
-    QFile::remove(paths.previousClients);
-    for (const QString& file : {paths.nextClients, paths.nextTwins, paths.marker})
+    QFile::remove(paths.nextNotes);
+    if (paths.kept.isEmpty()) QFile::remove(paths.previousClients);
+    for (const QString& file : {paths.nextClients, paths.nextTwins, paths.nextNotes, paths.marker})
         removeUnfinished(file);
 }
 
@@ -92,7 +113,10 @@ bool finish(const PairPaths& paths) {
 
 // A swap that was refused half-way may hold the only copy of the clients: nothing is read or replaced before it is
 // done.
-bool settle(const PairPaths& paths) { return !QFile::exists(paths.marker) || finish(paths); }
+bool settle(const ProgramFolder& folder) {
+    const PairPaths paths = markedPaths(folder);
+    return !QFile::exists(paths.marker) || finish(paths);
+}
 
 template<class Rec>
 std::optional<QByteArray> wholeRecords(const ProgramFolder& folder) {
@@ -120,7 +144,7 @@ std::optional<Client> readClient(const ProgramFolder& folder, qint64 number) {
 }
 
 std::optional<ClientPair> readClientPair(const ProgramFolder& folder) {
-    if (!settle(PairPaths(folder))) return std::nullopt;
+    if (!settle(folder)) return std::nullopt;
     std::optional<QByteArray> clients = wholeRecords<ClientRec>(folder);
     std::optional<QByteArray> twins = wholeRecords<TwinRec>(folder);
     if (!clients || !twins) return std::nullopt;
@@ -133,7 +157,7 @@ ClientReplacement::ClientReplacement(const ProgramFolder& folder)
     , clients_(PairPaths(folder).nextClients)
     , twins_(PairPaths(folder).nextTwins) {
     constexpr auto mode = QIODevice::WriteOnly | QIODevice::Unbuffered; // as in replaceFile
-    whole_ = settle(PairPaths(folder)) && clients_.open(mode) && twins_.open(mode);
+    whole_ = settle(folder) && clients_.open(mode) && twins_.open(mode);
 }
 
 void ClientReplacement::append(const Client& client) {
@@ -156,13 +180,17 @@ void ClientReplacement::flush() {
     buffer_.twins.reserve(bufferSize);
 }
 
-bool ClientReplacement::commit() {
+bool ClientReplacement::commit(const CommitExtras& extras) {
     flush();
-    const PairPaths paths(folder_);
+    const PairPaths paths(folder_, extras.keepOldClientsAs);
     clientCount(folder_); // creates a missing file, so that there always is an old one to put back
+    const auto isFree = [&] {
+        return paths.kept.isEmpty() ? isGone(paths.previousClients) : !QFile::exists(paths.previousClients);
+    };
     // A marker of an earlier commit would speak for files that are not its own.
-    if (!whole_ || !isGone(paths.marker) || !isGone(paths.previousClients)) return false;
-    if (!clients_.commit() || !twins_.commit() || !writeMarker(paths)) {
+    if (!whole_ || !isGone(paths.marker) || !isGone(paths.nextNotes) || !isFree()) return false;
+    const bool notesStored = extras.importNotes.isEmpty() || replaceFile(paths.nextNotes, extras.importNotes);
+    if (!notesStored || !clients_.commit() || !twins_.commit() || !writeMarker(paths)) {
         removeLeftovers(paths);
         return false;
     }
@@ -170,7 +198,7 @@ bool ClientReplacement::commit() {
 }
 
 bool finishInterruptedCommit(const ProgramFolder& folder) {
-    const PairPaths paths(folder);
+    const PairPaths paths = markedPaths(folder);
     if (QFile::exists(paths.marker)) return finish(paths);
     removeLeftovers(paths);
     return true;

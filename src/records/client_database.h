@@ -33,6 +33,16 @@ std::optional<Client> readClient(const ProgramFolder& folder, qint64 number);
 // Reads each file once and brings the twins into step. Nothing if a file is there but can't be read.
 std::optional<ClientPair> readClientPair(const ProgramFolder& folder);
 
+// What the importer knows of files that it has done with. It changes in the same step as the pair, so that no file is
+// taken twice after a kill.
+constexpr auto importNotesFile = "figyelt.lst";
+
+// What a commit does beside replacing the pair.
+struct CommitExtras {
+    QByteArray importNotes = {};   // new contents of importNotesFile; empty leaves them as they are
+    QString keepOldClientsAs = {}; // name for the old nevek1.dat, which must be free; empty: it goes
+};
+
 // A new pair of files in the making: written aside and flushed, then put in the place of the old pair as one step. A
 // kill at any moment leaves the old pair or, after finishInterruptedCommit, the new one, both files in step. Destroyed
 // without a commit it leaves no trace.
@@ -44,8 +54,8 @@ public:
     // Raw records, as many twins as clients.
     void append(QByteArrayView clients, QByteArrayView twins);
     // False: nothing was replaced, the old pair stands (disk full, folder not writable, a file held by another
-    // program). To be called once, last.
-    [[nodiscard]] bool commit();
+    // program, the name to keep the old file under taken). To be called once, last.
+    [[nodiscard]] bool commit(const CommitExtras& extras = {});
 
 private:
     void flush();

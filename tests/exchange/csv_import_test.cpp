@@ -18,7 +18,7 @@ using Result = ImportOutcome::Result;
 
 ImportOutcome importBytes(const TestFolder& folder, const QByteArray& bytes, ImportMode mode = ImportMode::overwrite) {
     folder.setBytes(u"be.csv"_s, bytes);
-    return importClients(folder.folder().file(u"be.csv"_s), folder, mode);
+    return importClients(folder.folder().file(u"be.csv"_s), folder, {mode});
 }
 
 // The texts and the amount of a stored client in the order of the file, parted by '|'; trailing empty ones left out.
@@ -174,7 +174,7 @@ TEST(CsvImport, WhatCannotBeReadOrWrittenChangesNothing) {
 
     for (const ImportMode mode : {ImportMode::overwrite, ImportMode::append}) {
         const auto importFile = [&](const QString& name) {
-            return importClients(folder.folder().file(name), folder, mode).result;
+            return importClients(folder.folder().file(name), folder, {mode}).result;
         };
         for (const QString& name : {u"nincs.csv"_s, u"mappa.csv"_s, QString()})
             EXPECT_EQ(importFile(name), Result::unreadable);
@@ -183,7 +183,7 @@ TEST(CsvImport, WhatCannotBeReadOrWrittenChangesNothing) {
         for (const qint64 failAt : {0, 10, 2000000}) {
             FailingDevice device(&bytes, failAt);
             ASSERT_TRUE(device.open(QIODevice::ReadOnly | QIODevice::Unbuffered));
-            EXPECT_EQ(importClients(device, folder, mode).result, Result::unreadable);
+            EXPECT_EQ(importClients(device, folder, {mode}).result, Result::unreadable);
         }
     }
     QDir(folder.folder().path()).mkpath(u"xxkoz.dat/benne"_s);
@@ -206,7 +206,7 @@ TEST(CsvImport, OneHugeLineAndJunkCostNoMoreThanTheirBytes) {
         std::vector<qint64> steps;
         folder.setBytes(u"be.csv"_s, text);
         const ImportOutcome outcome =
-            importClients(folder.folder().file(u"be.csv"_s), folder, ImportMode::overwrite,
+            importClients(folder.folder().file(u"be.csv"_s), folder, {ImportMode::overwrite},
                           [&](qint64 done, qint64 total) { steps.push_back(total == text.size() ? done : -1); });
         EXPECT_EQ(outcome.clients, 400001);
         EXPECT_EQ(shown(folder, 1),

@@ -130,6 +130,75 @@ TEST_F(DatabaseWindow, ImportThatFailsLeavesTheDatabase) {
     }
 }
 
+TEST_F(DatabaseWindow, ExportSaysWhatItCameTo) {
+    const QString path = files.folder().file(QStringLiteral("ki.csv"));
+    const auto save = [&](const QString& to) {
+        prompts.files = {to};
+        choose("mnuMentCSVbe");
+        EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+        return told();
+    };
+    EXPECT_EQ(save({}) + save(QStringLiteral("*.csv")) + status(), "");
+    EXPECT_EQ(save(path), "");
+    EXPECT_EQ(status(), "3 ügyfél mentve: " + path.toStdString());
+    EXPECT_EQ(files.bytes(QStringLiteral("ki.csv")).size(), 3 * exportLineLength);
+    Q_EMIT find<QLabel>("lbAllapot").linkActivated(path);
+    EXPECT_EQ(opened, QStringList(path));
+
+    files.setBytes(QStringLiteral("ki.csv"), QByteArray(1000, 'x'));
+    EXPECT_EQ(save(path), "Figyelem!|A választott fájl hosszabb volt, a végén régi sorok maradtak!");
+    EXPECT_EQ(save(files.folder().file(QStringLiteral("nevek1.dat"))).find(" FIGYELEM |A mentés nem sikerült:"), 0);
+    EXPECT_EQ(rows(), "Kiss Anna|[Szűcs Ernő]|Nagy Béla");
+}
+
+// The program would read the file back, in fewer columns, and delete it.
+TEST_F(DatabaseWindow, ExportIntoTheWatchedFolderAsksFirst) {
+    const QString path = files.folder().file(QStringLiteral("ki.csv"));
+    for (const bool isOn : {false, true}) {
+        updateRecord<Set>(files, [&](Set& set) {
+            set.chkAutBeolvas = isOn ? 1 : 0;
+            set.txtAutBeolvas.set(files.folder().path() + QStringLiteral("/"));
+        });
+        prompts.files = {path};
+        if (isOn) prompts.answers = {Answer::no};
+        choose("mnuMentCSVbe");
+        EXPECT_EQ(files.has(QStringLiteral("ki.csv")), !isOn);
+        QFile::remove(path);
+    }
+    EXPECT_EQ(joined(prompts.asked.back()), "Figyelem!|Ez a figyelt mappa, a program a fájlt beolvassa és törli!\n\n"
+                                            "Mehet a mentés?");
+}
+
+TEST_F(DatabaseWindow, ConversionTellsItsOutcome) {
+    const QByteArray older =
+        QByteArray("Szenes Iv\xE1n").leftJustified(125) + QByteArray(82, '\0') + QByteArray(30, ' ');
+    const struct {
+        QByteArray database;
+        Answer answer;
+        const char* told;
+        const char* rows;
+    } attempts[] = {
+        {older, Answer::no, "", "Kiss Anna|[Szűcs Ernő]|Nagy Béla"},
+        {older, Answer::yes, "", "Szenes Iván"},
+        {older, Answer::yes,
+         "FIGYELEM!|A ''nevekR.dat'' nevű mentés már létezik!\n"
+         "Nevezze át vagy helyezze át, majd indítsa el újra a konvertálást.",
+         "Szenes Iván"},
+        {files.bytes(QStringLiteral("nevek1.dat")), Answer::yes,
+         "FIGYELEM!|A ''nevek1.dat'' már az új formátumú adatbázis,\nezért nem kell konvertálni!", "Szenes Iván"},
+        {{}, Answer::yes, "FIGYELEM!|Nincsen elérhető konvertálandó fájl!\n", "Szenes Iván"},
+    };
+    for (const auto& attempt : attempts) {
+        files.setBytes(QStringLiteral("nevek1.dat"), attempt.database);
+        prompts.answers = {attempt.answer};
+        choose("mnuKonertal");
+        EXPECT_EQ(told(), attempt.told);
+        EXPECT_EQ(rows(), attempt.rows);
+    }
+    expectNobodyHeld();
+    EXPECT_EQ(status(), "1 ügyfél konvertálva.");
+}
+
 TEST_F(DatabaseWindow, TooLargeADatabaseIsToldLast) {
     for (const int count : {32766, 32767}) {
         files.store(clientNamed(QStringLiteral("Kiss Anna")), count);
