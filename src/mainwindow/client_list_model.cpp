@@ -9,6 +9,7 @@
 #include <cstring>
 #include <memory>
 #include <numeric>
+#include <unordered_set>
 
 namespace {
 
@@ -239,6 +240,14 @@ void ClientListModel::removeRows(QList<int> rows) {
 int ClientListModel::rowOf(int recordNumber) const {
     const auto found = std::find(rows_.begin(), rows_.end(), recordNumber);
     return found == rows_.end() ? -1 : static_cast<int>(found - rows_.begin());
+}
+
+QList<int> ClientListModel::rowsOf(const std::vector<int>& recordNumbers) const {
+    const std::unordered_set<int> wanted(recordNumbers.begin(), recordNumbers.end());
+    QList<int> rows;
+    for (std::size_t row = 0; row < rows_.size(); ++row)
+        if (wanted.contains(rows_[row])) rows << static_cast<int>(row);
+    return rows;
 }
 
 int ClientListModel::rowCount(const QModelIndex& parent) const {

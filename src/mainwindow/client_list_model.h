@@ -46,6 +46,8 @@ public:
     int recordNumber(int row) const { return rows_[static_cast<std::size_t>(row)]; }
     // Row of a client, -1 if the list doesn't show it.
     int rowOf(int recordNumber) const;
+    // Rows of several clients, as far as the list shows them, in screen order.
+    QList<int> rowsOf(const std::vector<int>& recordNumbers) const;
     // Clients in the file as last read, whether the list shows them or not.
     int clientCount() const { return static_cast<int>(clients_.size() / qsizetype{sizeof(ClientRec)}); }
     // Record numbers of all rows in screen order.

@@ -35,9 +35,16 @@ QList<int> ClientListView::selectedRows() const {
     return rows;
 }
 
-void ClientListView::selectRow(int row) {
-    const QModelIndex index = model()->index(row, 0);
-    selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+void ClientListView::selectRows(const QList<int>& rows, int current) {
+    QItemSelection selection; // a range for each run of rows: thousands of single ones take the view seconds
+    for (qsizetype first = 0, end = 0; first < rows.size(); first = end) {
+        for (end = first + 1; end < rows.size() && rows[end] == rows[end - 1] + 1;)
+            ++end;
+        selection.append({model()->index(rows[first], 0), model()->index(rows[end - 1], 0)});
+    }
+    selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    const QModelIndex index = model()->index(current, 0);
+    selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
     scrollTo(index);
 }
 

@@ -12,7 +12,9 @@ public:
     // Rows that are selected, in screen order.
     QList<int> selectedRows() const;
     // Selects one row alone, without an event.
-    void selectRow(int row);
+    void selectRow(int row) { selectRows({row}, row); }
+    // The same with several, in screen order; `current` comes into view, -1 is none.
+    void selectRows(const QList<int>& rows, int current);
 
     // Shown in the middle of a list without rows.
     void setEmptyText(const QString& text);

@@ -73,11 +73,16 @@ QWidget* ClientZone::buildSide() {
     return side;
 }
 
-void ClientZone::Beolvas(int keep) {
+void ClientZone::Beolvas() {
     const int scrolledTo = view_->verticalScrollBar()->value();
     model_.Beolvas(folder_);
     view_->verticalScrollBar()->setValue(scrolledTo);
-    select(keep);
+}
+
+void ClientZone::refresh(int inHand) {
+    const std::vector<int> selected = rows().selected;
+    Beolvas();
+    view_->selectRows(model_.rowsOf(selected.empty() ? std::vector{inHand} : selected), model_.rowOf(inHand));
 }
 
 void ClientZone::cmdBeolvas_Click() { model_.cmdBeolvas_Click(folder_); }

@@ -17,9 +17,10 @@ class ClientZone : public QWidget {
 public:
     explicit ClientZone(const ProgramFolder& folder, QWidget* parent = nullptr);
 
-    // Refills the list from nevek1.dat; selection, buttons and count stay as they are told to be.
-    // `keep` is the client whose row is selected again; without one the list stays scrolled to where it was.
-    void Beolvas(int keep = 0);
+    // Refills the list from nevek1.dat, scrolled to where it was; buttons and count stay as they are told to be.
+    void Beolvas();
+    // The same where all record numbers stand: those who are selected stay so, else client `inHand` is.
+    void refresh(int inHand);
     // The button: the same with bare record numbers.
     void cmdBeolvas_Click();
     // Narrows the list to the names that contain `text`; `keep` is then selected again if it is still there.

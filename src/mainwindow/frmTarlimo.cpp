@@ -187,7 +187,7 @@ void frmTarlimo::clientsChanged(const ClientsChanged& change) {
         selected_.record = readClient(folder_, change.number).value_or(selected_.record);
         pourModified(tabs_, selected_.record, {readRecord<Set>(folder_), readRecord<SetRcsekk>(folder_)});
     }
-    clients_->Beolvas(selected_.rekordszam);
+    change.movesNumbers() ? clients_->Beolvas() : clients_->refresh(selected_.rekordszam);
     applyButtonRule();
     SSTab1_->showValues();
 }

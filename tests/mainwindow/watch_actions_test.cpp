@@ -78,7 +78,7 @@ TEST_F(WatchWindow, WhatDoesNotPrintIsTold) {
         std::string told;
         const char* rows;
     } cases[] = {
-        {false, 1, "Új Ida;;;;;;900", untick, "Kiss Anna|Szűcs Ernő|Nagy Béla|Új Ida"},
+        {false, 1, "Új Ida;;;;;;900", untick, "Kiss Anna|[Szűcs Ernő]|Nagy Béla|Új Ida"},
         {true, 0, "Új Ida;;;;;;900", untick, "Új Ida"},
         {true, 1, "Új Ida;;;;;;900\nA;;;;;;\nB;;;;;;sok",
          "HIBA|A beolvasott adatokból 2 rekord nem tartalmaz összeget, így nem nyomtatható automatikusan csekk!\n"
