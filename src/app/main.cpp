@@ -1,4 +1,5 @@
 #include "mainwindow/frmTarlimo.h"
+#include "mainwindow/guarded.h"
 #include "platform/open_document.h"
 #include "platform/qt_print_service.h"
 #include "platform/qt_prompts.h"
@@ -10,8 +11,26 @@
 #include <QLibraryInfo>
 #include <QTranslator>
 
+namespace {
+
+// Whatever an event sets off that a file or the memory stops, and that nobody nearer has told of.
+class Application : public QApplication {
+public:
+    using QApplication::QApplication;
+    bool notify(QObject* receiver, QEvent* event) override {
+        bool handled = false;
+        guarded(prompts_, [&] { handled = QApplication::notify(receiver, event); });
+        return handled;
+    }
+
+private:
+    QtPrompts prompts_{QString()};
+};
+
+} // namespace
+
 int main(int argc, char** argv) {
-    QApplication application(argc, argv);
+    Application application(argc, argv);
     QApplication::setApplicationVersion(QStringLiteral(TARLIMO_VERSION));
     const ProgramFolder folder(QApplication::applicationDirPath());
     // Words of the toolkit's own (the file dialog's columns), where its translation is installed.
@@ -22,9 +41,13 @@ int main(int argc, char** argv) {
 
     QtPrintService printing(folder);
     QtPrompts prompts(folder.path());
-    frmTarlimo window(
-        folder, {printing, prompts, openDocument, [&printing] { return printing.lastPdf(); }, systemInformationTool()});
-    onTerminationRequest(&window, [&window] { window.close(); });
-    window.show();
-    return QApplication::exec();
+    int result = 1;
+    guarded(prompts, [&] {
+        frmTarlimo window(folder, {printing, prompts, openDocument, [&printing] { return printing.lastPdf(); },
+                                   systemInformationTool()});
+        onTerminationRequest(&window, [&window] { window.close(); });
+        window.show();
+        result = QApplication::exec();
+    });
+    return result;
 }

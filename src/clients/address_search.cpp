@@ -22,7 +22,8 @@ const Text<25>& nameOf(const BudapestRec& record) { return record.Utca; }
 template<class Rec, class Matches>
 std::vector<Found<Rec>> find(const ProgramFolder& folder, Matches matches) {
     std::vector<Found<Rec>> found;
-    const QByteArray bytes = RecordFile<Rec>(folder).readAll();
+    QByteArray bytes;
+    if (!RecordFile<Rec>(folder).readAllInto(bytes)) return {};
     const auto* records = reinterpret_cast<const Rec*>(bytes.constData()); // alignment 1, as every record
     for (qint64 i = 0; i < bytes.size() / qint64{sizeof(Rec)}; ++i)
         if (matches(records[i]) && !nameOf(records[i]).trimmed().isEmpty()) found.push_back({records[i], i + 1});

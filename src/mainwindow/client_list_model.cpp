@@ -127,11 +127,12 @@ void ClientListModel::search(const ProgramFolder& folder, QStringView text) {
 template<class Choose>
 void ClientListModel::refill(const ProgramFolder& folder, Numbers numbers, Choose choose) {
     beginResetModel();
-    RecordFile<ClientRec>(folder).readAllInto(clients_);
+    const bool isRead = RecordFile<ClientRec>(folder).readAllInto(clients_);
     numbers_ = numbers;
     rows_ = choose();
     sortRows();
     endResetModel();
+    if (!isRead) throw UnreadableFile(QString::fromLatin1(ClientRec::fileName));
 }
 
 ClientListModel::Rows ClientListModel::allRows() const {

@@ -1,6 +1,7 @@
 #include "mainwindow/database_actions.h"
 
 #include "exchange/watched_folder.h"
+#include "mainwindow/guarded.h"
 #include "mainwindow/main_menu.h"
 #include "mainwindow/work_in_progress.h"
 #include "prompts/messages.h"
@@ -36,14 +37,21 @@ DatabaseActions::DatabaseActions(const ProgramFolder& folder, Prompts& prompts, 
     , work_(work) {}
 
 void DatabaseActions::connectMenu(const QMenuBar& bar) {
-    onMenu(bar, "mnuAdatCsvbol", this, &DatabaseActions::mnuAdatCsvbol_Click);
-    onMenu(bar, "mnuKonertal", this, &DatabaseActions::mnuKonertal_Click);
-    onMenu(bar, "mnuMentCSVbe", this, &DatabaseActions::mnuMentCSVbe_Click);
-    onMenu(bar, "mnuAdatbazisTorles", this, &DatabaseActions::mnuAdatbazisTorles_Click);
+    const auto on = [&](const char* name, void (DatabaseActions::*action)()) {
+        onMenu(bar, name, this, [this, action] { guarded(prompts_, [&] { (this->*action)(); }); });
+    };
+    on("mnuAdatCsvbol", &DatabaseActions::mnuAdatCsvbol_Click);
+    on("mnuKonertal", &DatabaseActions::mnuKonertal_Click);
+    on("mnuMentCSVbe", &DatabaseActions::mnuMentCSVbe_Click);
+    on("mnuAdatbazisTorles", &DatabaseActions::mnuAdatbazisTorles_Click);
 }
 
 void DatabaseActions::checkAtStart() {
-    if (!finishInterruptedCommit(folder_))
+    const Recovery recovery = finishInterruptedCommit(folder_);
+    if (recovery == Recovery::clientsFound)
+        prompts_.tell({Icon::information, titles::attention,
+                       u"Az ügyfelek adatbázisa hiányzott, a félretett példánya visszakerült a helyére."_s});
+    if (recovery == Recovery::oldPairKept)
         prompts_.tell({Icon::information, titles::attention,
                        u"Az ügyfelek adatbázisának cseréje legutóbb félbeszakadt,\nés nem fejezhető be. "
                        "A korábbi adatbázis maradt meg."_s});

@@ -5,6 +5,7 @@
 #include "mainwindow/client_zone.h"
 #include "mainwindow/envelope_label_rules.h"
 #include "mainwindow/envelope_picture.h"
+#include "mainwindow/guarded.h"
 #include "mainwindow/label_cells.h"
 #include "mainwindow/main_menu.h"
 #include "mainwindow/pink_check_rules.h"
@@ -60,9 +61,11 @@ void frmTarlimo::connectParts() {
     connect(SSTab1_, &TabStrip::searchWanted, this, [this](const QString& text) { searchList(text, 0); });
     connect(SSTab1_, &TabStrip::listWanted, clients_, &ClientZone::enterList);
     connect(SSTab1_, &TabStrip::clientWanted, clients_, [this] { clients_->setFocus(); });
-    connect(clients_, &ClientZone::rowClicked, this, &frmTarlimo::rowClicked);
-    connect(clients_, &ClientZone::deletePressed, this,
-            [this] { database_.cmdDel_Click(selected_.rekordszam, tabs_.yellowCheck.txNev); });
+    connect(clients_, &ClientZone::rowClicked, this,
+            [this](int row) { guarded(services_.prompts, [&] { rowClicked(row); }); });
+    connect(clients_, &ClientZone::deletePressed, this, [this] {
+        guarded(services_.prompts, [this] { database_.cmdDel_Click(selected_.rekordszam, tabs_.yellowCheck.txNev); });
+    });
     connect(clients_, &ClientZone::addPressed, &entry_, &ClientActions::cmdRogzit_Click);
     connect(clients_, &ClientZone::modifyPressed, &entry_, &ClientActions::cmdModosit_Click);
     connect(clients_, &ClientZone::amountsPressed, &entry_, &ClientActions::cmdOsszegek_Click);
@@ -94,7 +97,7 @@ void frmTarlimo::connectParts() {
 
 void frmTarlimo::connectMenu() {
     onMenu(*menuBar(), "mnuKilep", this, &frmTarlimo::askAndClose);
-    onMenu(*menuBar(), "mnuSetup", this, &frmTarlimo::showSetup);
+    onMenu(*menuBar(), "mnuSetup", this, [this] { guarded(services_.prompts, [this] { showSetup(); }); });
     onMenu(*menuBar(), "mnuUjcimzett", &entry_, &ClientActions::cmdRogzit_Click);
     database_.connectMenu(*menuBar());
     watching_.connectMenu(*menuBar());

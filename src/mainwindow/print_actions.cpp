@@ -1,6 +1,7 @@
 #include "mainwindow/print_actions.h"
 
 #include "mainwindow/client_zone.h"
+#include "mainwindow/guarded.h"
 #include "mainwindow/print_panel.h"
 #include "mainwindow/status_line.h"
 #include "mainwindow/work_in_progress.h"
@@ -17,7 +18,7 @@ void PrintActions::press(Press press, Tab tab) {
     const QPointer<QWidget> focus = QApplication::focusWidget();
     desk_.panel.setButtonsEnabled(false);
     const PrintRequest request{tab, press, desk_.panel.feed()};
-    PrintOutcome outcome = print(request);
+    PrintOutcome outcome = guardedPrint([&] { return print(request); });
     if (const QString differs = amountTrouble(request); outcome.pages > 0 && !differs.isEmpty())
         outcome.trouble += (outcome.trouble.isEmpty() ? QString() : u" "_s) + differs;
     desk_.panel.setButtonsEnabled(true);
@@ -27,13 +28,22 @@ void PrintActions::press(Press press, Tab tab) {
 }
 
 void PrintActions::printUnattended() {
-    const PrintOutcome outcome = [this] {
+    report(guardedPrint([this] {
         const WorkInProgress::Turn turn(desk_.work);
         const PrintDesk desk{desk_.device, desk_.services.prompts, desk_.folder, false, shownProgress(), {}};
         return PrintCsAlloCsekk(desk, desk_.tabs, desk_.clients.rows());
-    }();
-    report(outcome);
+    }));
     Q_EMIT printed(Tab::yellowCheck);
+}
+
+// A layout or a client that can't be read prints nothing, least of all at position 0. There is no box: an unattended
+// print may be the one that is stopped.
+PrintOutcome PrintActions::guardedPrint(const std::function<PrintOutcome()>& print) {
+    PrintOutcome outcome;
+    const QString trouble = troubleOf([&] { outcome = print(); });
+    if (trouble.isEmpty()) return outcome;
+    desk_.device.KillDoc();
+    return {0, {}, trouble};
 }
 
 // One bar for both stages: the pages are written in its first half and handed over in the second.

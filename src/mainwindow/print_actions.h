@@ -38,6 +38,7 @@ Q_SIGNALS:
 
 private:
     PrintOutcome print(const PrintRequest& request);
+    PrintOutcome guardedPrint(const std::function<PrintOutcome()>& print);
     PageProgress shownProgress();
     QString amountTrouble(const PrintRequest& request) const;
     void report(const PrintOutcome& outcome);

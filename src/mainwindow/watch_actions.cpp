@@ -1,6 +1,7 @@
 #include "mainwindow/watch_actions.h"
 
 #include "exchange/dialogs/frmAutBeolvas.h"
+#include "mainwindow/guarded.h"
 #include "mainwindow/main_menu.h"
 #include "mainwindow/print_actions.h"
 #include "mainwindow/status_line.h"
@@ -34,6 +35,15 @@ void WatchActions::Timer1_Timer() {
         desk_.work.isBusy() || QApplication::activeModalWidget() || QApplication::activePopupWidget();
     if (isOccupied) return;
     Timer1_->stop();
+    // Without a box, which would stop the unattended run.
+    const QString trouble = troubleOf([this] { lookAndImport(); });
+    if (trouble.isEmpty()) return;
+    state_ = trouble;
+    desk_.line.showWatch(u"?"_s, state_);
+    Timer1_->start();
+}
+
+void WatchActions::lookAndImport() {
     const TickOutcome outcome = tick();
     const bool isEvent = outcome.result == TickOutcome::Result::imported || outcome.isPassedOver;
     state_ = isEvent ? QString() : tickText(outcome);

@@ -33,6 +33,7 @@ Q_SIGNALS:
 
 private:
     void Timer1_Timer();
+    void lookAndImport();
     TickOutcome tick();
     void finishImport(const TickOutcome& outcome);
     void showDialog();

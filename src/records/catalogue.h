@@ -20,12 +20,13 @@ inline constexpr Catalogue firstTitleLines{"Jogcimek.dat"};
 inline constexpr Catalogue secondTitleLines{"Jogcimek2.dat"};
 inline constexpr Catalogue notices{"Kozlem.dat"};
 
-// All entries. A missing file comes into being, empty.
+// All entries. A missing file comes into being, empty. This and the others throw UnreadableFile.
 std::vector<CatalogueEntry> readEntries(const ProgramFolder& folder, const Catalogue& catalogue);
 
-// Puts an entry at the end, cut to the length of the field. False, and nothing changes, if it could not be written.
+// Puts an entry at the end, cut to the length of the field. False, and nothing changes, if it could not be written. The
+// file is replaced in one step, so that a kill leaves the old list or the new one.
 [[nodiscard]] bool appendEntry(const ProgramFolder& folder, const Catalogue& catalogue, QStringView text);
 
-// Takes an entry out; those behind it move up by one. The file is replaced in one step, so that a kill leaves the old
-// list or the new one. False, and nothing changes, if there is no such entry or the new file could not be written.
+// The same: takes an entry out; those behind it move up by one. False, and nothing changes, if there is no such entry
+// or the new file could not be written.
 [[nodiscard]] bool removeEntry(const ProgramFolder& folder, const Catalogue& catalogue, qint64 number);

@@ -1,15 +1,19 @@
 #include "records/client_database.h"
 
-#include "records/file_replacement.h"
+#include "records/disk.h"
 
 #include <QFileInfo>
 
 // How the pair is replaced as one step. The new files are written whole and flushed under names of their own; then the
 // marker, which holds their sizes, is written: the point of no return. Then
 //     nevek1.dat -> nevek1.regi, nevx.dat -> nevek1.dat, xxkoz.dat -> kozl3sor.dat, figyelt.uj -> figyelt.lst,
-// the marker goes, and nevek1.regi after it. A name to keep the old clients under takes the place of nevek1.regi,
+// nevek1.regi goes, and the marker after it. A name to keep the old clients under takes the place of nevek1.regi,
 // stands in the marker, and stays. A start that finds the marker goes on from wherever a kill came. Without a marker
 // new files are never used, whoever left them.
+//
+// Renames reach the disk in any order, so the folder is flushed where one step relies on another: the new files are
+// there before the marker, the marker before the first rename, the last rename before the marker goes, and its going
+// before the next commit writes files that it would speak for.
 //
 // nevek1.regi is there for a rename that the system refuses half-way (Windows does while another program has the file
 // open): as long as the twins are the old ones, the old clients can be put back.
@@ -93,22 +97,23 @@ bool putOldClientsBack(const PairPaths& paths) {
     return moveOnto(paths.previousClients, paths.clients);
 }
 
-void removeLeftovers(const PairPaths& paths) {
+void removeNewFiles(const PairPaths& paths) {
     QFile::remove(paths.nextClients);
     QFile::remove(paths.nextTwins);
     QFile::remove(paths.nextNotes);
-    if (paths.kept.isEmpty()) QFile::remove(paths.previousClients);
-    for (const QString& file : {paths.nextClients, paths.nextTwins, paths.nextNotes, paths.marker})
-        removeUnfinished(file);
 }
 
-// Puts the new pair in place, or leaves the old one. If the old clients can't be put back now either, all stays as it
-// is for the next start.
+bool flushNames(const PairPaths& paths) { return flushFolder(QFileInfo(paths.clients).path()); }
+
+// Puts the new pair in place, or leaves the old one. If the old clients can't be put back now either, or nobody knows
+// whether the disk has it all, the marker stays for the next start.
 bool finish(const PairPaths& paths) {
     const bool finished = newPairIsWhole(paths) && putNewPairInPlace(paths);
     if (!finished && !putOldClientsBack(paths)) return false;
-    if (isGone(paths.marker)) removeLeftovers(paths);
-    return finished;
+    if (!flushNames(paths)) return false;
+    if (finished && paths.kept.isEmpty()) QFile::remove(paths.previousClients);
+    if (isGone(paths.marker)) removeNewFiles(paths);
+    return flushNames(paths) && finished;
 }
 
 // A swap that was refused half-way may hold the only copy of the clients: nothing is read or replaced before it is
@@ -120,11 +125,8 @@ bool settle(const ProgramFolder& folder) {
 
 template<class Rec>
 std::optional<QByteArray> wholeRecords(const ProgramFolder& folder) {
-    QByteArray records = RecordFile<Rec>(folder).readAll();
-    const qint64 fileSize = QFileInfo(folder.file(QString::fromLatin1(Rec::fileName))).size();
-    constexpr qint64 length = sizeof(Rec);
-    if (records.size() != fileSize - fileSize % length) return std::nullopt;
-    return records;
+    QByteArray records;
+    return RecordFile<Rec>(folder).readAllInto(records) ? std::optional(std::move(records)) : std::nullopt;
 }
 
 QByteArrayView bytesOf(const auto& record) {
@@ -133,7 +135,11 @@ QByteArrayView bytesOf(const auto& record) {
 
 } // namespace
 
-qint64 clientCount(const ProgramFolder& folder) { return RecordFile<ClientRec>(folder).count(); }
+qint64 clientCount(const ProgramFolder& folder) {
+    const RecordFile<ClientRec> clients(folder);
+    if (!clients.isReadable()) throw UnreadableFile(QString::fromLatin1(ClientRec::fileName));
+    return clients.count();
+}
 
 std::optional<Client> readClient(const ProgramFolder& folder, qint64 number) {
     RecordFile<ClientRec> clients(folder);
@@ -156,8 +162,7 @@ ClientReplacement::ClientReplacement(const ProgramFolder& folder)
     : folder_(folder)
     , clients_(PairPaths(folder).nextClients)
     , twins_(PairPaths(folder).nextTwins) {
-    constexpr auto mode = QIODevice::WriteOnly | QIODevice::Unbuffered; // as in replaceFile
-    whole_ = settle(folder) && clients_.open(mode) && twins_.open(mode);
+    whole_ = settle(folder) && clients_.open() && twins_.open();
 }
 
 void ClientReplacement::append(const Client& client) {
@@ -168,8 +173,7 @@ void ClientReplacement::append(const Client& client) {
 
 void ClientReplacement::append(QByteArrayView clients, QByteArrayView twins) {
     flush();
-    whole_ = whole_ && clients_.write(clients.data(), clients.size()) == clients.size() &&
-             twins_.write(twins.data(), twins.size()) == twins.size();
+    whole_ = whole_ && clients_.write(clients) && twins_.write(twins);
 }
 
 void ClientReplacement::flush() {
@@ -182,26 +186,31 @@ void ClientReplacement::flush() {
 
 bool ClientReplacement::commit(const CommitExtras& extras) {
     flush();
+    if (!whole_) return false;
+    (void)clientCount(folder_); // creates a missing file, so that there always is an old one to put back
     const PairPaths paths(folder_, extras.keepOldClientsAs);
-    clientCount(folder_); // creates a missing file, so that there always is an old one to put back
     const auto isFree = [&] {
         return paths.kept.isEmpty() ? isGone(paths.previousClients) : !QFile::exists(paths.previousClients);
     };
     // A marker of an earlier commit would speak for files that are not its own.
-    if (!whole_ || !isGone(paths.marker) || !isGone(paths.nextNotes) || !isFree()) return false;
+    if (!isGone(paths.marker) || !isGone(paths.nextNotes) || !isFree()) return false;
     const bool notesStored = extras.importNotes.isEmpty() || replaceFile(paths.nextNotes, extras.importNotes);
-    if (!notesStored || !clients_.commit() || !twins_.commit() || !writeMarker(paths)) {
-        removeLeftovers(paths);
+    const bool waiting = notesStored && clients_.finish() && twins_.finish() && clients_.commit(Flush::no) &&
+                         twins_.commit(Flush::no) && flushNames(paths);
+    if (!waiting || !writeMarker(paths)) {
+        if (isGone(paths.marker)) removeNewFiles(paths);
         return false;
     }
     return finish(paths);
 }
 
-bool finishInterruptedCommit(const ProgramFolder& folder) {
+Recovery finishInterruptedCommit(const ProgramFolder& folder) {
+    removeUnfinished(folder.path());
     const PairPaths paths = markedPaths(folder);
-    if (QFile::exists(paths.marker)) return finish(paths);
-    removeLeftovers(paths);
-    return true;
+    if (QFile::exists(paths.marker)) return finish(paths) ? Recovery::settled : Recovery::oldPairKept;
+    removeNewFiles(paths);
+    const bool areAside = !QFile::exists(paths.clients) && QFileInfo(paths.previousClients).size() > 0;
+    return areAside && moveOnto(paths.previousClients, paths.clients) ? Recovery::clientsFound : Recovery::settled;
 }
 
 qint64 addClient(const ProgramFolder& folder, const Client& client) {
@@ -210,25 +219,34 @@ qint64 addClient(const ProgramFolder& folder, const Client& client) {
     // The count of a file that can't be opened is 0: its first twin must not be overwritten.
     if (!clients.isWritable() || number > maxClientNumber) return 0;
     // The twin first: the client exists only once the last byte of its own record is there.
-    const bool stored = RecordFile<TwinRec>(folder).write(number, client.twin) && clients.write(number, client.client);
-    return stored ? number : 0;
+    RecordFile<TwinRec> twins(folder);
+    const bool stored = twins.write(number, client.twin) && twins.flush() && clients.write(number, client.client);
+    if (stored && clients.flush()) return number;
+    clients.truncate(number - 1); // told as refused, it must not turn up later
+    return 0;
 }
 
-bool modifyClient(const ProgramFolder& folder, qint64 number, const Client& client) {
-    RecordFile<ClientRec> clients(folder);
-    if (!clients.isWritable() || number < 1 || number > clients.count()) return false;
-    return RecordFile<TwinRec>(folder).write(number, client.twin) && clients.write(number, client.client);
-}
+namespace {
 
-bool deleteClient(const ProgramFolder& folder, qint64 number) {
+// The database with the record of client `number` and its twin replaced by others; by none, if those are empty.
+bool replaceRecords(const ProgramFolder& folder, qint64 number, QByteArrayView client, QByteArrayView twin) {
     const std::optional<ClientPair> pair = readClientPair(folder);
-    if (!pair || number < 1 || number > pair->clients.size() / clientLength) return false;
+    if (number < 1 || number > clientCount(folder) || !pair) return false;
     const QByteArrayView clients(pair->clients);
     const QByteArrayView twins(pair->twins);
     ClientReplacement replacement(folder);
     replacement.append(clients.first((number - 1) * clientLength), twins.first((number - 1) * twinLength));
+    replacement.append(client, twin);
     replacement.append(clients.sliced(number * clientLength), twins.sliced(number * twinLength));
     return replacement.commit();
 }
+
+} // namespace
+
+bool modifyClient(const ProgramFolder& folder, qint64 number, const Client& client) {
+    return replaceRecords(folder, number, bytesOf(client.client), bytesOf(client.twin));
+}
+
+bool deleteClient(const ProgramFolder& folder, qint64 number) { return replaceRecords(folder, number, {}, {}); }
 
 bool wipeClients(const ProgramFolder& folder) { return ClientReplacement(folder).commit(); }

@@ -3,8 +3,6 @@
 #include "records/client_records.h"
 #include "records/record_file.h"
 
-#include <QSaveFile>
-
 #include <optional>
 
 // The client database is a pair of files in step: record k of both is one client. A client exists once its record in
@@ -24,7 +22,7 @@ struct ClientPair {
     QByteArray twins;
 };
 
-// Number of clients.
+// Number of clients. Throws UnreadableFile, which it is not to be taken for none.
 qint64 clientCount(const ProgramFolder& folder);
 
 // Client `number`, a twin that was never written as zeros. Nothing if there is no such client or it can't be read.
@@ -53,30 +51,37 @@ public:
     void append(const Client& client);
     // Raw records, as many twins as clients.
     void append(QByteArrayView clients, QByteArrayView twins);
-    // False: nothing was replaced, the old pair stands (disk full, folder not writable, a file held by another
-    // program, the name to keep the old file under taken). To be called once, last.
+    // Throws UnreadableFile, before anything changed. False: nothing was replaced, the old pair stands (disk full,
+    // folder not writable, a file held by another program, the name to keep the old file under taken). To be called
+    // once, last.
     [[nodiscard]] bool commit(const CommitExtras& extras = {});
 
 private:
     void flush();
 
     ProgramFolder folder_;
-    QSaveFile clients_;
-    QSaveFile twins_;
+    NewFile clients_;
+    NewFile twins_;
     ClientPair buffer_;
     bool whole_; // every byte so far reached the files
 };
 
+enum class Recovery {
+    settled,     // nothing to tell: no commit was interrupted, or it is finished now
+    oldPairKept, // the new pair that was to be finished is damaged or can't be put in place, and the old one stands
+    clientsFound // nevek1.dat was gone and the clients set aside were put back
+};
 // Finishes or clears away what a killed process left of a commit. Run once at start, before anyone opens the pair.
-// False: the new pair that was to be finished is damaged or can't be put in place, and the old one stands.
-[[nodiscard]] bool finishInterruptedCommit(const ProgramFolder& folder);
+[[nodiscard]] Recovery finishInterruptedCommit(const ProgramFolder& folder);
+
+// These throw UnreadableFile, and nothing changes, where the database can't be read.
 
 // Stores a client behind the last one and returns its number; 0, and the database is as it was, if it holds
 // maxClientNumber clients already or can't be written.
 [[nodiscard]] qint64 addClient(const ProgramFolder& folder, const Client& client);
 
-// Writes both records of client `number`. False, and nothing is written, if there is no such client; also false if the
-// files can't be written.
+// Replaces both records of client `number` as one step. False, and nothing changes, if there is no such client or the
+// new pair could not be written.
 [[nodiscard]] bool modifyClient(const ProgramFolder& folder, qint64 number, const Client& client);
 
 // Deletes client `number`; those behind it move down by one. False, and nothing changes, if it isn't there or the new

@@ -1,7 +1,6 @@
 #include "records/program_folder.h"
 
-#include <QDir>
-#include <QTemporaryFile>
+#include "records/file_replacement.h"
 
 ProgramFolder::ProgramFolder(QString path) : path_(std::move(path)) {}
 
@@ -9,6 +8,5 @@ QString ProgramFolder::file(const QString& name) const { return path_ + u'/' + n
 
 bool ProgramFolder::isWritable() const {
     // Only an attempt tells: permissions alone say nothing of read-only media or of the system's access lists.
-    QTemporaryFile probe(path_ + QStringLiteral("/iras.XXXXXX"));
-    return probe.open();
+    return NewFile(file(QStringLiteral("iras"))).open();
 }

@@ -5,6 +5,8 @@
 RawRecordFile::RawRecordFile(const ProgramFolder& folder, const QString& fileName, qint64 recordLength)
     : file_(folder.file(fileName))
     , recordLength_(recordLength) {
+    // A pipe or a device would hang whoever opens it.
+    if (const QFileInfo file(file_); file.exists() && !file.isFile()) return;
     // Unbuffered: a record reaches the system in one call, so a killed process leaves whole records only.
     if (!file_.open(QIODevice::ReadWrite | QIODevice::Unbuffered))
         file_.open(QIODevice::ReadOnly | QIODevice::Unbuffered);
@@ -34,16 +36,18 @@ bool RawRecordFile::write(qint64 k, const char* record) {
     return false;
 }
 
-QByteArray RawRecordFile::readAll() {
-    QByteArray bytes;
-    readAllInto(bytes);
-    return bytes;
+bool RawRecordFile::readAllInto(QByteArray& bytes) {
+    bytes.resize(0);
+    if (!file_.isOpen() || !file_.seek(0)) return false;
+    const auto length = static_cast<qsizetype>(count() * recordLength_);
+    bytes.resize(length);
+    const qint64 done = length > 0 ? file_.read(bytes.data(), length) : 0;
+    bytes.resize(static_cast<qsizetype>(std::max<qint64>(done, 0)));
+    return done == length;
 }
 
-void RawRecordFile::readAllInto(QByteArray& bytes) {
-    const bool readable = file_.isOpen() && file_.seek(0);
-    bytes.resize(readable ? static_cast<qsizetype>(count() * recordLength_) : 0);
-    if (bytes.isEmpty()) return;
-    bytes.truncate(static_cast<qsizetype>(std::max<qint64>(0, file_.read(bytes.data(), bytes.size()))));
-    bytes.truncate(bytes.size() - bytes.size() % static_cast<qsizetype>(recordLength_));
+QByteArray settings_file::read(const ProgramFolder& folder, const QString& name) {
+    QByteArray bytes;
+    if (!RawRecordFile(folder, name, 1).readAllInto(bytes)) throw UnreadableFile(name);
+    return bytes;
 }

@@ -1,20 +1,37 @@
 #pragma once
 
+#include "records/disk.h"
+#include "records/file_replacement.h"
 #include "records/program_folder.h"
 
 #include <QByteArray>
 #include <QFile>
+#include <QFileInfo>
 
 #include <cstring>
+#include <stdexcept>
 #include <type_traits>
 
+// A file that is there and can't be read: an error of the disk or the network, no right, no plain file. It isn't an
+// empty one, whose records are zeros, and whoever needs it must stop.
+class UnreadableFile : public std::runtime_error {
+public:
+    explicit UnreadableFile(const QString& name) : std::runtime_error(name.toStdString()), name_(name) {}
+    const QString& name() const { return name_; }
+
+private:
+    QString name_;
+};
+
 // A flat file of records of one length, without header; record numbers start at 1. Opening creates a missing file,
-// empty; a write-protected one is opened for reading. Nothing here throws or asks: a read that cannot be done gives
-// zeros, a write that cannot be done returns false and leaves the file as it was.
+// empty; a write-protected one is opened for reading. A write that cannot be done returns false and leaves the file as
+// it was.
 class RawRecordFile {
 public:
     RawRecordFile(const ProgramFolder& folder, const QString& fileName, qint64 recordLength);
 
+    // False where nothing can be read: there are no records then, and each read fails.
+    bool isReadable() const { return file_.isOpen(); }
     // Whole records in the file, worked out anew at each call; an incomplete tail doesn't count.
     qint64 count() const;
     // False for a write-protected file, and for one that could not be opened at all.
@@ -24,11 +41,14 @@ public:
     // Writing at count() + 1 appends, over an incomplete tail if there is one; farther out, the gap is filled with
     // NULs.
     bool write(qint64 k, const char* record);
-    // The bytes of all whole records, in one read.
-    QByteArray readAll();
-    // The same into `bytes`, whose memory is used again: for large files, first use of memory takes longer than
-    // reading.
-    void readAllInto(QByteArray& bytes);
+    // The bytes of all whole records in one read, into `bytes`, whose memory is used again: for large files, first use
+    // of memory takes longer than reading. False if not all of them could be read.
+    bool readAllInto(QByteArray& bytes);
+    // Puts on the disk what was written.
+    bool flush() { return flushToDisk(file_); }
+    // Takes the records behind the first `count` away.
+    bool truncate(qint64 count) { return file_.resize(count * recordLength_); }
+    QString name() const { return QFileInfo(file_.fileName()).fileName(); }
 
 private:
     QFile file_;
@@ -44,18 +64,28 @@ public:
     explicit RecordFile(const ProgramFolder& folder)
         : file_(folder, QString::fromLatin1(Rec::fileName), static_cast<qint64>(sizeof(Rec))) {}
 
+    bool isReadable() const { return file_.isReadable(); }
     qint64 count() const { return file_.count(); }
     bool isWritable() const { return file_.isWritable(); }
+    // Throws UnreadableFile.
     Rec read(qint64 k) {
         Rec record;
-        file_.read(k, reinterpret_cast<char*>(&record));
+        if (!read(k, record)) throw UnreadableFile(file_.name());
         return record;
     }
     // False, and zeros, if the record could not be read; one beyond the end reads as zeros.
     bool read(qint64 k, Rec& record) { return file_.read(k, reinterpret_cast<char*>(&record)); }
     bool write(qint64 k, const Rec& record) { return file_.write(k, reinterpret_cast<const char*>(&record)); }
-    QByteArray readAll() { return file_.readAll(); }
-    void readAllInto(QByteArray& bytes) { file_.readAllInto(bytes); }
+    // Throws UnreadableFile.
+    QByteArray readAll() {
+        QByteArray bytes;
+        if (!readAllInto(bytes)) throw UnreadableFile(file_.name());
+        return bytes;
+    }
+    bool readAllInto(QByteArray& bytes) { return file_.readAllInto(bytes); }
+    bool flush() { return file_.flush(); }
+    // Takes the records behind the first `count` away.
+    bool truncate(qint64 count) { return file_.truncate(count); }
 
 private:
     RawRecordFile file_;
@@ -69,18 +99,32 @@ Rec zeroRecord() {
     return record;
 }
 
-// Record 1 of a settings file.
+namespace settings_file {
+// All bytes of a file, which is created if it is missing. Throws UnreadableFile.
+QByteArray read(const ProgramFolder& folder, const QString& name);
+
+template<class Rec>
+QByteArray readFor(const ProgramFolder& folder) {
+    QByteArray bytes = read(folder, QString::fromLatin1(Rec::fileName));
+    if (bytes.size() < qsizetype{sizeof(Rec)}) bytes.append(qsizetype{sizeof(Rec)} - bytes.size(), '\0');
+    return bytes;
+}
+} // namespace settings_file
+
+// Record 1 of a settings file: what is there of it, zeros for the rest. Throws UnreadableFile.
 template<class Rec>
 Rec readRecord(const ProgramFolder& folder) {
-    return RecordFile<Rec>(folder).read(1);
+    Rec record;
+    std::memcpy(static_cast<void*>(&record), settings_file::readFor<Rec>(folder).constData(), sizeof record);
+    return record;
 }
 
 // The one place of read, change, write back: `change` touches the fields that the caller owns, and all others keep what
-// is on disk. False if the record could not be written.
+// is on disk. The file is replaced as one step. False, and all is as it was, if it could not be written. Throws
+// UnreadableFile, and all is as it was.
 template<class Rec, class Change>
-bool updateRecord(const ProgramFolder& folder, Change change) {
-    RecordFile<Rec> file(folder);
-    Rec record = file.read(1);
-    change(record);
-    return file.write(1, record);
+bool updateRecord(const ProgramFolder& folder, Change change, Flush flush = Flush::yes) {
+    QByteArray bytes = settings_file::readFor<Rec>(folder);
+    change(*reinterpret_cast<Rec*>(bytes.data())); // alignment 1
+    return replaceFile(folder.file(QString::fromLatin1(Rec::fileName)), bytes, flush);
 }

@@ -83,7 +83,7 @@ void killAtManyPoints(const QString& operation) {
     for (int kill = 0; kill < killsEach; ++kill) {
         store(folder, before);
         const bool done = runProbe(operation, folder, csvPath, whole.microseconds * kill / killsEach).done;
-        EXPECT_TRUE(finishInterruptedCommit(folder));
+        EXPECT_EQ(finishInterruptedCommit(folder), Recovery::settled);
         const ClientPair found = pairIn(folder);
         EXPECT_TRUE(same(found, after) || (!done && same(found, before))) << operation.toStdString() << ' ' << kill;
         EXPECT_EQ(QDir(folder.folder().path()).entryList(QDir::Files).size(), 2) << "something was left behind";
@@ -120,7 +120,7 @@ TEST(Kill, DuringConversionLeavesTheOldDatabaseOrBoth) {
     for (int kill = 0; kill < killsEach; ++kill) {
         storeAll(folder, before);
         const bool done = runProbe(u"convert"_s, folder, {}, whole.microseconds * kill / killsEach).done;
-        EXPECT_TRUE(finishInterruptedCommit(folder));
+        EXPECT_EQ(finishInterruptedCommit(folder), Recovery::settled);
         const auto found = filesIn(folder);
         EXPECT_TRUE(found == after || (!done && found == before))
             << kill << ' ' << found.keys().join(u' ').toStdString();
@@ -150,7 +150,7 @@ TEST(Kill, DuringATickNothingIsImportedTwiceOrLost) {
             storeAll(folder, before);
             folder.setBytes(u"be/uj.csv"_s, csv);
             runProbe(u"tick"_s, folder, {}, whole.microseconds * kill / killsEach);
-            EXPECT_TRUE(finishInterruptedCommit(folder));
+            EXPECT_EQ(finishInterruptedCommit(folder), Recovery::settled);
             watchTick(folder, QDateTime::currentDateTime().addSecs(60));
             EXPECT_TRUE(same(pairIn(folder), after)) << overwrites << ' ' << kill;
             EXPECT_FALSE(folder.has(u"be/uj.csv"_s));

@@ -244,8 +244,9 @@ TEST_F(EntryTest, RefusesWhatCannotBeStored) {
     files.store(clientNamed(u"utolsó"_s), maxClientNumber);
     save({Answer::yes});
     EXPECT_EQ(lastTold(), "Az adatbázisban legfeljebb 32767 ügyfél kezelhető!");
-    QFile::remove(files.folder().file(u"nevek1.dat"_s));
-    QDir().mkdir(files.folder().file(u"nevek1.dat"_s));
+    QFile::resize(files.folder().file(u"nevek1.dat"_s), 0);
+    QFile::remove(files.folder().file(u"kozl3sor.dat"_s));
+    QDir().mkdir(files.folder().file(u"kozl3sor.dat"_s));
     save({Answer::yes});
     EXPECT_EQ(lastTold(), "Az adatbázis nem írható, a korábbi állapot maradt meg.");
     EXPECT_EQ(boxes(), "A||B||C||");

@@ -21,11 +21,11 @@ TEST(FileReplacement, PutsWholeFilesInPlaceAndClearsWhatAKillLeft) {
     }
     EXPECT_FALSE(replaceFile(folder.folder().file(u"nincs/a.dat"_s), "x"));
 
-    for (const QString& name : {u"a.dat.AbCdEf"_s, u"b.dat"_s, u"a.dat.bak"_s})
+    for (const QString& name : {u"a.dat.~4711"_s, u"b.dat"_s, u"a.dat.mentes"_s, u"a.~1~"_s})
         folder.setBytes(name, "b");
-    removeUnfinished(path);
+    removeUnfinished(folder.folder().path());
     EXPECT_EQ(QDir(folder.folder().path()).entryList(QDir::Files),
-              (QStringList{u"a.dat"_s, u"a.dat.bak"_s, u"b.dat"_s}));
+              (QStringList{u"a.dat"_s, u"a.dat.mentes"_s, u"a.~1~"_s, u"b.dat"_s}));
     EXPECT_TRUE(moveOnto(folder.folder().file(u"b.dat"_s), path));
     EXPECT_EQ(folder.bytes(u"a.dat"_s), QByteArray("b"));
     EXPECT_FALSE(moveOnto(folder.folder().file(u"b.dat"_s), path));

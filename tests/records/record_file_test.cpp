@@ -64,18 +64,23 @@ TEST(RecordFile, OpeningCreatesAMissingFileEmptyAndUpdateKeepsWhatTheCallerDoesN
     EXPECT_EQ(bytesOf(readRecord<Rec>(folder)), QByteArray(3, '\0'));
     EXPECT_TRUE(folder.has(name));
     EXPECT_EQ(folder.bytes(name), QByteArray());
-    folder.setBytes(name, "xyzO");
-    EXPECT_TRUE(updateRecord<Rec>(folder, [](Rec& rec) { rec.text.data()[1] = '!'; }));
-    EXPECT_EQ(folder.bytes(name), QByteArray("x!zO"));
+    for (const auto& [before, after] : {std::pair{"xyzO", "x!zO"}, {"xyz", "x!z"}}) {
+        folder.setBytes(name, before);
+        EXPECT_TRUE(updateRecord<Rec>(folder, [](Rec& rec) { rec.text.data()[1] = '!'; }));
+        EXPECT_EQ(folder.bytes(name), QByteArray(after));
+    }
+    folder.setBytes(name, "x"); // a record that lost its end keeps what it has
+    EXPECT_EQ(bytesOf(readRecord<Rec>(folder)), QByteArray("x\0\0", 3));
 }
 
-TEST(RecordFile, WhatCannotBeOpenedReadsAsZerosAndRefusesWriting) {
+TEST(RecordFile, WhatCannotBeOpenedIsNoEmptyFile) {
     const TestFolder folder;
     QDir(folder.folder().path()).mkdir(name);
     RecordFile<Rec> file(folder);
     EXPECT_EQ(file.count(), 0);
-    EXPECT_EQ(bytesOf(file.read(1)), QByteArray(3, '\0'));
-    EXPECT_EQ(file.readAll(), QByteArray());
+    EXPECT_THROW(file.read(1), UnreadableFile);
+    EXPECT_THROW(file.readAll(), UnreadableFile);
+    EXPECT_THROW(updateRecord<Rec>(folder, [](Rec&) {}), UnreadableFile);
     EXPECT_FALSE(file.isWritable());
     EXPECT_FALSE(file.write(1, abc));
 }

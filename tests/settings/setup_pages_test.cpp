@@ -187,7 +187,7 @@ TEST(SetupPages, ARecordThatCannotBeWrittenIsToldAndTheBoxesStayAsTyped) {
         SCOPED_TRACE(row.button);
         const TestFolder folder;
         for (const RecordRow& record : records())
-            QDir().mkdir(folder.folder().file(record.file));
+            folder.block(record.file);
         OpenedSetup setup(folder, row.setupOldal);
         const QStringList typed = typeEverywhere(setup, u"99"_s);
         press(setup, row);

@@ -1,5 +1,7 @@
 #include "support/test_folder.h"
 
+#include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 
 QByteArray TestFolder::bytes(const QString& name) const {
@@ -13,6 +15,10 @@ void TestFolder::setBytes(const QString& name, const QByteArray& bytes) const {
 }
 
 bool TestFolder::has(const QString& name) const { return QFile::exists(folder_.file(name)); }
+
+void TestFolder::block(const QString& name) const {
+    QDir().mkpath(folder_.file(name + QStringLiteral(".~%1/x").arg(QCoreApplication::applicationPid())));
+}
 
 ClientRec clientNamed(const QString& name, int amount) {
     auto client = zeroRecord<ClientRec>();

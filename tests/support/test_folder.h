@@ -16,6 +16,8 @@ public:
     QByteArray bytes(const QString& name) const;
     void setBytes(const QString& name, const QByteArray& bytes) const;
     bool has(const QString& name) const;
+    // Lets nobody replace a file, whatever his rights.
+    void block(const QString& name) const;
 
     template<class Rec>
     void store(const Rec& record, qint64 k = 1) const {

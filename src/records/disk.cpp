@@ -1,0 +1,37 @@
+#include "records/disk.h"
+
+#include <QFile>
+
+#ifdef Q_OS_UNIX
+#include <cerrno>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace {
+
+bool flushHandle(int handle) {
+    int result = 0;
+    do
+        result = ::fsync(handle);
+    while (result != 0 && errno == EINTR);
+    return result == 0;
+}
+
+} // namespace
+
+bool flushToDisk(QFileDevice& file) { return file.flush() && flushHandle(file.handle()); }
+
+bool flushFolder(const QString& folder) {
+    const int handle = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (handle < 0) return false;
+    const bool flushed = flushHandle(handle) || errno == EINVAL; // some network drives have no such flush
+    ::close(handle);
+    return flushed;
+}
+#else
+#include <io.h>
+
+bool flushToDisk(QFileDevice& file) { return file.flush() && ::_commit(file.handle()) == 0; }
+
+bool flushFolder(const QString& /*folder*/) { return true; }
+#endif
