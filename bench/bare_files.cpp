@@ -135,5 +135,6 @@ void bareExport(const QString& path, int lines) {
         if (buffer.size() == linesEach * lineLength) flush();
     }
     flush();
+    if (::fsync(file) != 0) qFatal("the bare export failed");
     ::close(file);
 }

@@ -6,6 +6,7 @@
 #include <QFile>
 
 #include <cstring>
+#include <span>
 #include <type_traits>
 
 // A flat file of records of one length, without header; record numbers start at 1. Opening creates a missing file,
@@ -19,8 +20,11 @@ public:
     qint64 count() const;
     // False for a write-protected file, and for one that could not be opened at all.
     bool isWritable() const { return file_.isWritable(); }
+    bool isReadable() const { return file_.isReadable(); }
     // Record k, or zeros beyond the end. The file is never made longer.
     void read(qint64 k, char* record);
+    // `number` records from `first` on, in one read; zeros beyond the end. False: the file can't be read.
+    bool readMany(qint64 first, qint64 number, char* records);
     // Writing at count() + 1 appends, over an incomplete tail if there is one; farther out, the gap is filled with
     // NULs.
     bool write(qint64 k, const char* record);
@@ -46,6 +50,10 @@ public:
 
     qint64 count() const { return file_.count(); }
     bool isWritable() const { return file_.isWritable(); }
+    bool isReadable() const { return file_.isReadable(); }
+    bool readMany(qint64 first, std::span<Rec> records) {
+        return file_.readMany(first, static_cast<qint64>(records.size()), reinterpret_cast<char*>(records.data()));
+    }
     Rec read(qint64 k) {
         Rec record;
         file_.read(k, reinterpret_cast<char*>(&record));
