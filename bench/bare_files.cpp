@@ -117,3 +117,24 @@ void bareImport(const QString& csv, const QString& folder) {
     clients.putInPlace();
     twins.putInPlace();
 }
+
+void bareExport(const QString& path, int lines) {
+    constexpr std::size_t lineLength = 331;
+    constexpr std::size_t linesEach = pieceSize / lineLength;
+    const std::vector<char> line(lineLength, 'x');
+    std::vector<char> buffer;
+    buffer.reserve(pieceSize);
+    const int file = ::open(QFile::encodeName(path).constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
+    const auto flush = [&] {
+        if (::write(file, buffer.data(), buffer.size()) != static_cast<ssize_t>(buffer.size()))
+            qFatal("the bare export failed");
+        buffer.clear();
+    };
+    for (int i = 0; i < lines; ++i) {
+        buffer.insert(buffer.end(), line.begin(), line.end());
+        if (buffer.size() == linesEach * lineLength) flush();
+    }
+    flush();
+    if (::fsync(file) != 0) qFatal("the bare export failed");
+    ::close(file);
+}

@@ -18,3 +18,7 @@ BareBytes bareRead(const QString& path);
 // `folder`: one buffer each, flushed to the disk and put in the place of the old files. Knows the columns and their
 // widths and nothing of quotes, encodings, blanks or errors.
 void bareImport(const QString& csv, const QString& folder);
+
+// Writes so many lines of an export into a new file: all bytes are copied into one buffer, which is handed to the
+// system when it is full. Knows nothing of records.
+void bareExport(const QString& path, int lines);

@@ -11,19 +11,6 @@
 
 namespace {
 
-// A client of the earlier version.
-struct OlderClientRec {
-    static constexpr auto fileName = ClientRec::fileName;
-    Text<30> Nev;
-    Text<30> Nev2;
-    Text<20> Helyseg;
-    Text<45> Cim;
-    I16 Irsz;
-    std::array<I32, 20> Osszegek; // the last eight have no place any more
-    Text<30> Azonosito;
-};
-static_assert(sizeof(OlderClientRec) == 237 && offsetof(OlderClientRec, Azonosito) == 207);
-
 // Text has no control bytes but a tab that was pasted, and NULs only behind it: those of a field that was never
 // written.
 template<std::size_t n>

@@ -1,6 +1,20 @@
 #pragma once
 
+#include "records/client_records.h"
 #include "records/program_folder.h"
+
+// A client of the earlier version.
+struct OlderClientRec {
+    static constexpr auto fileName = ClientRec::fileName;
+    Text<30> Nev;
+    Text<30> Nev2;
+    Text<20> Helyseg;
+    Text<45> Cim;
+    I16 Irsz;
+    std::array<I32, 20> Osszegek; // the last eight have no place any more
+    Text<30> Azonosito;
+};
+static_assert(sizeof(OlderClientRec) == 237 && offsetof(OlderClientRec, Azonosito) == 207);
 
 // The name that a converted database of the earlier format is kept under.
 constexpr auto keptOlderDatabase = "nevekR.dat";

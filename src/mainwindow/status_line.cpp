@@ -28,6 +28,7 @@ StatusLine::StatusLine(QWidget* parent)
     count_->setObjectName(u"lbUgyfelekSzama"_s);
     watch_->setObjectName(u"lbFigyelo"_s);
     watch_->setTextFormat(Qt::PlainText);
+    watch_->setIndent(12);
     addPermanentWidget(message_, 1);
     for (QWidget* widget : std::initializer_list<QWidget*>{bar_, cancel_, count_, watch_})
         addPermanentWidget(widget);
@@ -60,7 +61,7 @@ void StatusLine::showWatch(const QString& folder, const QString& outcome) {
     // The end of a path says more than its beginning.
     const QString end = metrics.elidedText(folder, Qt::ElideLeft, 30 * letter);
     const QString text =
-        outcome.isEmpty() ? QString() : u"  "_s + metrics.elidedText(outcome, Qt::ElideRight, 50 * letter);
+        outcome.isEmpty() ? QString() : u"  "_s + metrics.elidedText(outcome, Qt::ElideRight, 64 * letter);
     watch_->setText(u"Figyelt mappa: "_s + end + text);
     watch_->setToolTip(plainToolTip(folder + (outcome.isEmpty() ? QString() : u'\n' + outcome)));
     watch_->setVisible(!folder.isEmpty());

@@ -23,6 +23,12 @@ bool RawRecordFile::read(qint64 k, char* record) {
     return false;
 }
 
+bool RawRecordFile::readMany(qint64 first, qint64 number, char* records) {
+    const qint64 there = std::clamp<qint64>(count() - first + 1, 0, number) * recordLength_;
+    std::fill(records + there, records + number * recordLength_, '\0');
+    return there == 0 ? isReadable() : file_.seek((first - 1) * recordLength_) && file_.read(records, there) == there;
+}
+
 bool RawRecordFile::write(qint64 k, const char* record) {
     if (k < 1 || !file_.isWritable()) return false;
     const qint64 oldSize = file_.size();

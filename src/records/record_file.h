@@ -9,6 +9,7 @@
 #include <QFileInfo>
 
 #include <cstring>
+#include <span>
 #include <stdexcept>
 #include <type_traits>
 
@@ -38,6 +39,8 @@ public:
     bool isWritable() const { return file_.isWritable(); }
     // Record k, or zeros beyond the end. The file is never made longer. False, and zeros, if it could not be read.
     bool read(qint64 k, char* record);
+    // `number` records from `first` on, in one read; zeros beyond the end. False: the file can't be read.
+    bool readMany(qint64 first, qint64 number, char* records);
     // Writing at count() + 1 appends, over an incomplete tail if there is one; farther out, the gap is filled with
     // NULs.
     bool write(qint64 k, const char* record);
@@ -67,6 +70,9 @@ public:
     bool isReadable() const { return file_.isReadable(); }
     qint64 count() const { return file_.count(); }
     bool isWritable() const { return file_.isWritable(); }
+    bool readMany(qint64 first, std::span<Rec> records) {
+        return file_.readMany(first, static_cast<qint64>(records.size()), reinterpret_cast<char*>(records.data()));
+    }
     // Throws UnreadableFile.
     Rec read(qint64 k) {
         Rec record;

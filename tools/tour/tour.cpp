@@ -39,7 +39,7 @@ Answer TourPrompts::ask(const Message& message, Answer) {
 
 QString TourPrompts::openFile(const QString&, const QString&) { return csv; }
 
-QString TourPrompts::saveFile(const QString&, const QString&) { return {}; }
+QString TourPrompts::saveFile(const QString&, const QString&) { return target; }
 
 std::optional<PrinterChoice> TourPrompts::choosePrinter(const QStringList&, int, const QString&) {
     return PrinterChoice{printer, 1};
@@ -82,6 +82,7 @@ int Tour::run() {
     printLabels();
     moveSettings();
     openCatalogues();
+    exchangeData();
     closeAndReopen();
     QTextStream(stdout) << (failures_ == 0 ? QStringLiteral("The tour went well.\n")
                                            : QStringLiteral("%1 steps failed.\n").arg(failures_));

@@ -13,6 +13,7 @@ class QDialog;
 class TourPrompts : public Prompts {
 public:
     QString csv;     // what the file dialog answers
+    QString target;  // and the one that saves
     int printer = 0; // what the print dialog answers
     QStringList shown;
 
@@ -74,6 +75,12 @@ private:
     void moveSettings();
     void openCatalogues();
     void closeAndReopen();
+
+    void exchangeData(); // exchange_tour.cpp
+    void exportAndImport();
+    void watchFolder();
+    void convertOlderDatabase();
+    void choose(const char* menuEntry);
 
     QString results_;
     ProgramFolder folder_;
