@@ -8,6 +8,7 @@
 #include "mainwindow/label_cells.h"
 #include "mainwindow/main_menu.h"
 #include "mainwindow/pink_check_rules.h"
+#include "mainwindow/posting_list_actions.h"
 #include "mainwindow/print_panel.h"
 #include "mainwindow/status_line.h"
 #include "mainwindow/tab_strip.h"
@@ -101,6 +102,8 @@ void frmTarlimo::connectMenu() {
     onMenu(*menuBar(), "mnuSetup", this, &frmTarlimo::showSetup);
     onMenu(*menuBar(), "mnuAdatCsvbol", &database_, &DatabaseActions::mnuAdatCsvbol_Click);
     onMenu(*menuBar(), "mnuAdatbazisTorles", &database_, &DatabaseActions::mnuAdatbazisTorles_Click);
+    const auto* posting = new PostingListActions(*this, folder_, services_, printing_);
+    connect(posting, &PostingListActions::settingsClosed, this, &frmTarlimo::activate);
     onMenu(*menuBar(), "mnuImportHelp", this, [this] {
         services_.openDocument(folder_.file(u"Csekk_adat_Import.htm"_s));
     }).setShortcut(Qt::Key_F1);

@@ -13,19 +13,32 @@ using namespace Qt::Literals::StringLiterals;
 
 void PrintActions::press(Press press, Tab tab) {
     if (desk_.work.isBusy()) return;
+    const PrintRequest request{tab, press, desk_.panel.feed()};
+    carryOut([&](const PrintDesk& desk, const ListRows& rows) {
+        PrintOutcome outcome =
+            dispatchPrint(desk, desk_.tabs, request, rows, desk_.selected.record.client.Nev.trimmed());
+        if (const QString differs = amountTrouble(request); outcome.pages > 0 && !differs.isEmpty())
+            outcome.trouble += (outcome.trouble.isEmpty() ? QString() : u" "_s) + differs;
+        return outcome;
+    });
+    Q_EMIT printed(tab);
+}
+
+void PrintActions::mnuCimzettekNyomtatasa_Click() {
+    if (desk_.work.isBusy()) return;
+    carryOut([&](const PrintDesk& desk, const ListRows& rows) { return dispatchPostingList(desk, desk_.tabs, rows); });
+}
+
+void PrintActions::carryOut(const Print& print) {
     const QPointer<QWidget> focus = QApplication::focusWidget();
     desk_.panel.setButtonsEnabled(false);
-    const PrintRequest request{tab, press, desk_.panel.feed()};
-    PrintOutcome outcome = print(request);
-    if (const QString differs = amountTrouble(request); outcome.pages > 0 && !differs.isEmpty())
-        outcome.trouble += (outcome.trouble.isEmpty() ? QString() : u" "_s) + differs;
+    const PrintOutcome outcome = run(print);
     desk_.panel.setButtonsEnabled(true);
     report(outcome);
-    Q_EMIT printed(tab);
     if (focus) focus->setFocus(); // a disabled button has passed it on
 }
 
-PrintOutcome PrintActions::print(const PrintRequest& request) {
+PrintOutcome PrintActions::run(const Print& print) {
     const WorkInProgress::Turn turn(desk_.work);
     // One bar for both stages: the pages are written in its first half and handed over in the second.
     const auto progress = [this](const PagesDone& pages) {
@@ -41,8 +54,7 @@ PrintOutcome PrintActions::print(const PrintRequest& request) {
         takenOut = rows.selected.size();
     };
     PrintOutcome outcome =
-        dispatchPrint({desk_.device, desk_.services.prompts, desk_.folder, true, progress, takeSelectedOut}, desk_.tabs,
-                      request, rows, desk_.selected.record.client.Nev.trimmed());
+        print({desk_.device, desk_.services.prompts, desk_.folder, true, progress, takeSelectedOut}, rows);
     if (takenOut > 0) outcome.trouble.prepend(u"%1 sor levéve a listáról. "_s.arg(takenOut));
     return outcome;
 }

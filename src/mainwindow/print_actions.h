@@ -29,13 +29,17 @@ public:
 
     // Prints the form of `tab` once or for each selected client. The focus stays where it was.
     void press(Press press, Tab tab);
+    // Prints the names of the selected clients over the posting list.
+    void mnuCimzettekNyomtatasa_Click();
 
 Q_SIGNALS:
     // A press has been carried out, whatever came of it.
     void printed(Tab tab);
 
 private:
-    PrintOutcome print(const PrintRequest& request);
+    using Print = std::function<PrintOutcome(const PrintDesk&, const ListRows&)>;
+    void carryOut(const Print& print);
+    PrintOutcome run(const Print& print);
     QString amountTrouble(const PrintRequest& request) const;
     void report(const PrintOutcome& outcome);
 

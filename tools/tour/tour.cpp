@@ -67,7 +67,7 @@ QString Tour::freshFolder(const QString& delivered) {
 int Tour::run() {
     window_ = std::make_unique<frmTarlimo>(
         folder_,
-        WindowServices{printing_, prompts_, [](const QString&) {}, [this] { return printing_.lastPdf(); }, {}});
+        WindowServices{printing_, prompts_, [](const QString&) {}, [this] { return printing_.lastPdf(); }, {}, {}});
     window_->resize(1240, 711); // the design size: the offscreen platform's screen is smaller
     window_->show();
     check(QTest::qWaitForWindowExposed(window_.get()), QStringLiteral("the window opens"));
@@ -78,6 +78,7 @@ int Tour::run() {
     printForms("cmdPrint", QStringLiteral("egyes"), 1);
     printBatches();
     printLabels();
+    printPostingList();
     moveSettings();
     openCatalogues();
     closeAndReopen();
@@ -131,6 +132,11 @@ void Tour::type(const char* box, const QString& text) {
 
 void Tour::print(const char* button, const QString& form, int pages) {
     click(button);
+    keepPdf(form, pages);
+}
+
+// What has just been printed, among the results.
+void Tour::keepPdf(const QString& form, int pages) {
     const QString status = window_->statusBar()->currentMessage();
     check(status.startsWith(QStringLiteral("%1 oldal kinyomtatva").arg(pages)), form + QStringLiteral(": ") + status);
     const QString target = results_ + u'/' + form + QStringLiteral(".pdf");
@@ -375,7 +381,7 @@ void Tour::closeAndReopen() {
     window_->close();
     window_ = std::make_unique<frmTarlimo>(
         folder_,
-        WindowServices{printing_, prompts_, [](const QString&) {}, [this] { return printing_.lastPdf(); }, {}});
+        WindowServices{printing_, prompts_, [](const QString&) {}, [this] { return printing_.lastPdf(); }, {}, {}});
     window_->show();
     check(window_->findChild<QTabWidget*>(QStringLiteral("SSTab1"))->currentIndex() == 6,
           QStringLiteral("the next start comes back to the tab"));

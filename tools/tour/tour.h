@@ -55,6 +55,7 @@ private:
     void showTab(int tab);
     void type(const char* box, const QString& text);
     void print(const char* button, const QString& form, int pages);
+    void keepPdf(const QString& form, int pages);
 
     void importClients();
     void walkTabs();
@@ -64,6 +65,7 @@ private:
     void selectBatch(int clients);
     void printBatches();
     void printLabels();
+    void printPostingList();
     void inDialog(const std::function<void()>& open, const std::function<void(QDialog&)>& act);
     void openSetup(const std::function<void(QDialog&)>& act);
     void shootDialog(QDialog& dialog, const QString& name);
