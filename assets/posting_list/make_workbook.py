@@ -19,7 +19,7 @@ DIGIT = 6  # pixels of a digit of 8 points, the unit of column widths
 
 # Caption and right edge of each column, mm from the edge of the paper.
 COLUMNS = [
-    ("Sor-\nszám", 23.5),
+    ("Ssz.", 23.5),
     ("Küldemény azonosítója", 63.5),
     ("Címzett neve", 108.5),
     ("Ir. szám", 125.5),
