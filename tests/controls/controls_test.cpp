@@ -1,14 +1,19 @@
 #include "controls/dialog.h"
 #include "controls/entry_combo.h"
+#include "controls/folder_chooser.h"
 #include "controls/named.h"
+#include "support/test_folder.h"
 
+#include <QComboBox>
 #include <QCoreApplication>
+#include <QDir>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QTextDocument>
+#include <QTreeWidget>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
@@ -73,4 +78,81 @@ TEST(EntryCombo, KeepsItsTextWhateverTheListAndTheWheelDo) {
     QCoreApplication::sendEvent(&box, &wheel);
     EXPECT_EQ(box.currentText(), u"Egyedi"_s);
     EXPECT_FALSE(wheel.isAccepted());
+}
+
+namespace {
+
+QStringList shownFolders(const FolderChooser& chooser) {
+    QStringList names;
+    for (QTreeWidgetItemIterator item(chooser.findChild<QTreeWidget*>("Dir1")); *item; ++item)
+        names << (*item)->text(0);
+    return names;
+}
+
+void pressEnter(QWidget* widget) {
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+    QCoreApplication::sendEvent(widget, &press);
+    QCoreApplication::processEvents();
+}
+
+} // namespace
+
+TEST(FolderChooser, ShowsTheFolderOrTheNearestAboveItWithoutTellingAChange) {
+    const TestFolder test;
+    const QDir folder(test.folder().path());
+    for (const char* name : {"be/zsák", "be/Alma", "be/körte"})
+        folder.mkpath(QString::fromUtf8(name));
+    FolderChooser chooser;
+    int changes = 0;
+    QObject::connect(&chooser, &FolderChooser::pathChanged, [&changes] { ++changes; });
+    const QString be = folder.filePath(u"be"_s);
+    const std::pair<QString, QString> cases[] = {
+        {be, be},
+        {be + u"/"_s, be},
+        {be + u"/nincs/ott"_s, be},
+        {be + u"/zsák"_s, be + u"/zsák"_s},
+        {u"/nincs ilyen/mappa"_s, QDir::rootPath()},
+        {{}, QDir::homePath()},
+        {u"be"_s, QDir::homePath()},
+    };
+    for (const auto& [path, shown] : cases) {
+        chooser.setPath(path);
+        EXPECT_EQ(chooser.path(), QDir::toNativeSeparators(shown)) << path.toStdString();
+    }
+    chooser.setPath(be);
+    EXPECT_EQ(shownFolders(chooser).mid(shownFolders(chooser).indexOf(u"be"_s)),
+              QStringList({u"be"_s, u"Alma"_s, u"körte"_s, u"zsák"_s}));
+    EXPECT_EQ(shownFolders(chooser).first(), QDir::toNativeSeparators(QDir::rootPath()));
+    EXPECT_EQ(changes, 0);
+}
+
+TEST(FolderChooser, OpensByKeyAndByDriveWhatCanBeRead) {
+    const TestFolder test;
+    QDir folder(test.folder().path());
+    for (const char* name : {"a", "b"})
+        folder.mkdir(QString::fromUtf8(name));
+    FolderChooser chooser;
+    QStringList told;
+    QObject::connect(&chooser, &FolderChooser::pathChanged, [&told](const QString& path) { told << path; });
+    chooser.setPath(folder.path());
+    auto* list = chooser.findChild<QTreeWidget*>("Dir1");
+    QTreeWidgetItem* opened = list->currentItem();
+    list->setCurrentItem(opened->child(1));
+    folder.rmdir(u"b"_s);
+    pressEnter(list);
+    EXPECT_EQ(chooser.path(), QDir::toNativeSeparators(folder.path())); // gone meanwhile
+    list->setCurrentItem(opened->child(0));
+    pressEnter(list);
+    EXPECT_EQ(chooser.path(), QDir::toNativeSeparators(folder.filePath(u"a"_s)));
+
+    auto* drive = chooser.findChild<QComboBox*>("Drive1");
+    const int before = drive->currentIndex();
+    drive->addItem(u"Q:\\"_s, u"/nincs ilyen meghajtó"_s);
+    drive->setCurrentIndex(drive->count() - 1);
+    Q_EMIT drive->activated(drive->count() - 1);
+    EXPECT_EQ(drive->currentIndex(), before);
+    drive->setCurrentIndex(0);
+    Q_EMIT drive->activated(0);
+    EXPECT_EQ(chooser.path(), drive->itemText(0));
+    EXPECT_EQ(told, QStringList({QDir::toNativeSeparators(folder.filePath(u"a"_s)), drive->itemText(0)}));
 }

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QString>
+#include <QWidget>
+
+class QTreeWidget;
+class SteadyCombo;
+
+// A folder picked by mouse or keys, in two lists one above the other: the drives (`Drive1`), and the opened folder
+// (`Dir1`) with the folders above it and below it. ENTER or a double click opens the folder under the cursor. Nothing
+// here changes the current folder of the process. Paths have the separators of the platform.
+class FolderChooser : public QWidget {
+    Q_OBJECT
+public:
+    explicit FolderChooser(QWidget* parent = nullptr);
+
+    // Opens a folder; where it isn't there, the nearest folder above it that is, and the user's own where there is none
+    // or the path is empty. No signal.
+    void setPath(const QString& path);
+    // Of the opened folder: of setPath's text only if that is there.
+    QString path() const;
+
+Q_SIGNALS:
+    // The user has opened another folder.
+    void pathChanged(const QString& path);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void openDrive(int index);
+    // A folder that can't be read leaves the lists as they are.
+    void openByUser(const QString& folder);
+    void fill(const QString& folder);
+    void showDrive();
+
+    SteadyCombo* Drive1_;
+    QTreeWidget* Dir1_;
+    QString path_; // absolute, with '/'
+};
