@@ -4,7 +4,6 @@
 #include "mainwindow/client_pour.h"
 #include "mainwindow/client_zone.h"
 #include "mainwindow/envelope_label_rules.h"
-#include "mainwindow/envelope_picture.h"
 #include "mainwindow/label_cells.h"
 #include "mainwindow/main_menu.h"
 #include "mainwindow/pink_check_rules.h"
@@ -75,6 +74,7 @@ void frmTarlimo::connectParts() {
     connect(SSTab1_, &TabStrip::searchWanted, this, [this](const QString& text) { searchList(text, 0); });
     connect(SSTab1_, &TabStrip::listWanted, clients_, &ClientZone::enterList);
     connect(SSTab1_, &TabStrip::clientWanted, clients_, [this] { clients_->setFocus(); });
+    connect(SSTab1_, &TabStrip::dialogClosed, this, &frmTarlimo::activate);
     connect(clients_, &ClientZone::rowClicked, this, &frmTarlimo::rowClicked);
     connect(clients_, &ClientZone::deletePressed, this,
             [this] { database_.cmdDel_Click(selected_.rekordszam, tabs_.yellowCheck.txNev); });
@@ -153,7 +153,7 @@ void frmTarlimo::restoreControls() {
 
 void frmTarlimo::activate() {
     setWindowTitle(u"Tarlimo program - "_s + QStringLiteral(TARLIMO_VERSION));
-    SSTab1_->refillCatalogues();
+    SSTab1_->activate();
 }
 
 void frmTarlimo::rowClicked(int row) {

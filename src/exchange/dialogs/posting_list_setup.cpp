@@ -22,12 +22,9 @@ const QString programs = u"*.exe"_s;
 const QString programs = u"*"_s; // a program has no ending here
 #endif
 
-constexpr int pathLength = decltype(FjSet::txtExcelUtvonal)::width;
+using StoredPath = decltype(FjSet::txtExcelUtvonal);
 
 QPushButton* button(const char* name, const QString& caption) { return named(new QPushButton(caption), name); }
-
-// A path comes back from the file as it was typed, unless it is too long or has letters that the file doesn't know.
-bool isStorable(const QString& path) { return Text<pathLength>(path).trimmed() == path; }
 
 } // namespace
 
@@ -105,10 +102,10 @@ bool frmFjSetup::refuses() {
         return true;
     }
     const QString path = trimBlanks(txtExcelUtvonal_->text()).toString();
-    if (isStorable(path)) return false;
+    if (StoredPath::keeps(path)) return false;
     complain(txtExcelUtvonal_, u"Az útvonal nem tárolható: ''%1''\nLegfeljebb %2 betűből állhat, idegen betűk "
                                "nélkül."_s.arg(path)
-                                   .arg(pathLength));
+                                   .arg(StoredPath::width));
     return true;
 }
 
