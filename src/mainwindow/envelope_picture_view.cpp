@@ -42,6 +42,8 @@ QWidget* EnvelopeView::buildPicture() {
     onEdit(size, tab_, HScroll1_Change);
 
     auto* grid = new QGridLayout(box);
+    grid->setContentsMargins(8, 4, 8, 4);
+    grid->setVerticalSpacing(3);
     const auto add = [&](int row, int column, const QString& caption, QLabel* value) {
         grid->addWidget(new QLabel(caption), row, column);
         grid->addWidget(value, row, column + 1);

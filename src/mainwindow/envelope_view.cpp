@@ -54,6 +54,8 @@ constexpr QSizeF senderBlock(62.5, 4 * senderRow), freeLine(58, senderRow), addr
 // Columns of a block, in proportion: the postcode, what the other lines have more, the ticks.
 constexpr int columns[] = {210, 490, 54};
 
+constexpr QMargins tight(8, 4, 8, 4); // in the frames at the side
+
 QLabel* label(const char* name) { return named(new QLabel, name); }
 
 const TypeRow& rowOf(EnvelopeType type) { return types[static_cast<int>(type) - 1]; }
@@ -133,6 +135,7 @@ void EnvelopeView::buildSide() {
     auto* side = new QVBoxLayout;
     side->addWidget(buildTypes());
     side->addWidget(buildSample());
+    side->setSpacing(4); // all of it fits beside the envelope in a window of the design size
     side->addWidget(bindCheck(tab_.chkFelado, "chkFelado", QStringLiteral("Feladó nyomtatása")));
     side->addWidget(bindCheck(tab_.chkCimzett, "chkCimzett", QStringLiteral("Címzett nyomtatása")));
     side->addWidget(bindCheck(tab_.chkKepPrint, "chkKepPrint", QStringLiteral("Kép nyomtatása")));
@@ -144,6 +147,8 @@ void EnvelopeView::buildSide() {
 QWidget* EnvelopeView::buildTypes() {
     QGroupBox* box = frame("Frame2", "Boríték típusa");
     auto* column = new QVBoxLayout(box);
+    column->setContentsMargins(tight);
+    column->setSpacing(2);
     for (const TypeRow& row : types)
         column->addWidget(bindOption(
             row.option, QString::fromUtf8(row.caption), [this, &row] { return tab_.type == row.type; },
@@ -163,6 +168,7 @@ QWidget* EnvelopeView::buildSample() {
     QLabel* width = label("lbBoritekSzeles");
     QLabel* height = label("lbBoritekMagas");
     auto* grid = new QGridLayout(box);
+    grid->setContentsMargins(tight);
     grid->addWidget(sample, 0, 0, 2, 1);
     grid->addWidget(name, 0, 1, 1, 3);
     grid->addWidget(width, 1, 1);

@@ -79,6 +79,7 @@ int Tour::run() {
     printBatches();
     printLabels();
     printPostingList();
+    placePicture();
     moveSettings();
     openCatalogues();
     closeAndReopen();
@@ -285,7 +286,7 @@ void Tour::printLabels() {
     click("chkEgyediCimke");
 }
 
-// Opens a modal dialog by `open` and lets `act` work with it; it is closed afterwards.
+// Opens a modal dialog by `open` and lets `act` work with it; if it doesn't close it, it is closed afterwards.
 void Tour::inDialog(const std::function<void()>& open, const std::function<void(QDialog&)>& act) {
     QTimer::singleShot(100, [this, act] {
         auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
@@ -294,7 +295,7 @@ void Tour::inDialog(const std::function<void()>& open, const std::function<void(
         dialog->resize(dialog->sizeHint()); // the offscreen platform's screen is smaller than a real one
         QTest::qWait(30);
         act(*dialog);
-        dialog->reject();
+        if (dialog->isVisible()) dialog->reject();
     });
     open();
 }
@@ -376,13 +377,18 @@ void Tour::openCatalogues() {
     });
 }
 
-void Tour::closeAndReopen() {
-    showTab(6);
+// The next start.
+void Tour::reopen() {
     window_->close();
     window_ = std::make_unique<frmTarlimo>(
         folder_,
         WindowServices{printing_, prompts_, [](const QString&) {}, [this] { return printing_.lastPdf(); }, {}, {}});
     window_->show();
+}
+
+void Tour::closeAndReopen() {
+    showTab(6);
+    reopen();
     check(window_->findChild<QTabWidget*>(QStringLiteral("SSTab1"))->currentIndex() == 6,
           QStringLiteral("the next start comes back to the tab"));
 }

@@ -66,6 +66,11 @@ private:
     void printBatches();
     void printLabels();
     void printPostingList();
+    void placePicture();
+    void findPicture();
+    void dragPicture(QPointF mm);
+    void printWithPicture(const char* button, const QString& name, int pages);
+    void reopen();
     void inDialog(const std::function<void()>& open, const std::function<void(QDialog&)>& act);
     void openSetup(const std::function<void(QDialog&)>& act);
     void shootDialog(QDialog& dialog, const QString& name);
