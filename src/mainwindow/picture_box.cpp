@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr int mostShownPixels = 1600; // of the longer side: more than the box has on a screen, and quick to paint
+constexpr int mostShownPixels = 1600; // of the longer side: more than the box has on a screen, and quick to scale
 
 // A cursor file gives its hot spot at byte 10, left and top in two bytes each. The toolkit reads the picture alone.
 QCursor moveCursor(const QString& path) {
@@ -33,11 +33,11 @@ PictureBox::PictureBox(const ProgramFolder& folder) : folder_(folder) {
 }
 
 void PictureBox::setPicture(const QImage& picture) {
-    if (std::exchange(shown_, picture.cacheKey()) == shown_) return;
+    if (std::exchange(shown_, picture.cacheKey()) == picture.cacheKey()) return;
     const bool large = std::max(picture.width(), picture.height()) > mostShownPixels;
-    pixmap_ = QPixmap::fromImage(
-        large ? picture.scaled(mostShownPixels, mostShownPixels, Qt::KeepAspectRatio, Qt::SmoothTransformation)
-              : picture);
+    picture_ = large ? picture.scaled(mostShownPixels, mostShownPixels, Qt::KeepAspectRatio, Qt::SmoothTransformation)
+                     : picture;
+    scaled_ = {};
     update();
 }
 
@@ -68,11 +68,18 @@ void PictureBox::keyPressEvent(QKeyEvent* event) {
 
 void PictureBox::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    if (pixmap_.isNull())
+    if (picture_.isNull())
         painter.drawText(rect(), Qt::AlignCenter, QStringLiteral("kép"));
     else
-        painter.drawPixmap(rect(), pixmap_);
+        painter.drawPixmap(rect(), scaledPicture());
     painter.setPen(QPen(hasFocus() ? palette().highlight().color() : Qt::gray, 1, Qt::DashLine));
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+// Made once for a size, so that dragging only moves it.
+const QPixmap& PictureBox::scaledPicture() {
+    const QSize dots = size() * devicePixelRatioF();
+    if (scaled_.size() != dots)
+        scaled_ = QPixmap::fromImage(picture_.scaled(dots, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    return scaled_;
 }

@@ -34,7 +34,10 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    const QPixmap& scaledPicture();
+
     const ProgramFolder& folder_;
     qint64 shown_ = 0; // key of the picture
-    QPixmap pixmap_;
+    QImage picture_;   // null for the empty box; no larger than a screen needs
+    QPixmap scaled_;   // as it is on view
 };
