@@ -7,4 +7,5 @@ void addWindowBenches(Suite& suite);
 void addListBenches(Suite& suite);
 void addImportBenches(Suite& suite);
 void addPrintBenches(Suite& suite);
+void addPictureBenches(Suite& suite);
 void addWordsBenches(Suite& suite);

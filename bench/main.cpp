@@ -21,6 +21,7 @@ int main(int argc, char** argv) {
     addListBenches(suite);
     addImportBenches(suite);
     addPrintBenches(suite);
+    addPictureBenches(suite);
     addWordsBenches(suite);
     suite.run(argc > 1 ? argv[1] : "");
     return 0;
