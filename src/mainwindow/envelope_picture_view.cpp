@@ -85,7 +85,8 @@ void EnvelopeView::buildPictureBox() {
         picture->setPicture(tab_.picture);
         picture->setVisible(tab_.chkKepPrint);
     });
-    // The envelope is drawn larger or smaller with the window, so that a step of the mouse is measured on it.
+    // The envelope is drawn larger or smaller with the window, so that a step of the mouse is measured on it: a fixed
+    // number of twips to the pixel would let the picture run ahead of the pointer.
     const auto inPicture = [this, picture](QPointF at) {
         return twipsOf(tab_, page()->mmAt(picture->mapTo(page(), at))) - tab_.Image3.topLeft();
     };

@@ -10,8 +10,7 @@ enum class EnvelopeType { C6 = 1, C5 = 2, C56 = 3 };
 // The picture of the envelope tab, under the names of its controls. The box on the screen, in twips, is the truth of
 // its placement, as the settings store it; the rules below work out from it what is shown and printed.
 struct EnvelopePicture {
-    EnvelopeType type = EnvelopeType::C6; // OpB1, OpB2, OpB3
-    bool chkKepPrint = false;
+    EnvelopeType type = EnvelopeType::C6;    // OpB1, OpB2, OpB3
     QString kepFajl;                         // path of the file; empty for none
     FileStamp readFrom;                      // what `picture` was read from
     QImage picture;                          // nothing prints while it is null

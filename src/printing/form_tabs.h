@@ -51,7 +51,7 @@ struct PostingReceiptTab {
 };
 
 struct EnvelopeTab : EnvelopePicture {
-    bool chkFelado = true, chkCimzett = true;
+    bool chkFelado = true, chkCimzett = true, chkKepPrint = false; // what prints
     QString txtBoritekFeladoNev, txtBoritekFeladoCim1, txtBoritekFeladoCim2, txtBoritekFeladoIrSzam;
     bool chkFKFNev = false, chkFKFCim1 = false, chkFKFCim2 = false, chkFKFIrsz = false;
     QString txtBoritekCimzettNev, txtBoritekCimzettNev2, txtBoritekCimzettCim1, txtBoritekCimzettCim2;
