@@ -8,4 +8,5 @@ void addListBenches(Suite& suite);
 void addAddressBenches(Suite& suite);
 void addImportBenches(Suite& suite);
 void addPrintBenches(Suite& suite);
+void addPictureBenches(Suite& suite);
 void addWordsBenches(Suite& suite);

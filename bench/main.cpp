@@ -22,6 +22,7 @@ int main(int argc, char** argv) {
     addAddressBenches(suite);
     addImportBenches(suite);
     addPrintBenches(suite);
+    addPictureBenches(suite);
     addWordsBenches(suite);
     suite.run(argc > 1 ? argv[1] : "");
     return 0;

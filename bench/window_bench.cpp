@@ -95,7 +95,8 @@ public:
 private:
     QtPrintService printing_{sampleFolder(fullList), Devices::pdfOnly};
     QuietPrompts prompts_;
-    frmTarlimo window_{sampleFolder(fullList), WindowServices{printing_, prompts_, {}, [] { return QString(); }, {}}};
+    frmTarlimo window_{sampleFolder(fullList),
+                       WindowServices{printing_, prompts_, {}, [] { return QString(); }, {}, {}}};
     QTreeView* list_;
     int row_ = 0;
 };

@@ -5,6 +5,7 @@
 #include "platform/qt_print_service.h"
 #include "platform/qt_prompts.h"
 #include "platform/session_end.h"
+#include "platform/start_program.h"
 #include "platform/system_information.h"
 
 #include <QApplication>
@@ -18,8 +19,8 @@ int main(int argc, char** argv) {
 
     QtPrintService printing(folder);
     QtPrompts prompts;
-    frmTarlimo window(
-        folder, {printing, prompts, openDocument, [&printing] { return printing.lastPdf(); }, systemInformationTool()});
+    frmTarlimo window(folder, {printing, prompts, openDocument, [&printing] { return printing.lastPdf(); },
+                               systemInformationTool(), startProgram});
     onTerminationRequest(&window, [&window] { window.close(); });
     EndAtFirstPaint end(window);
     window.show();

@@ -4,6 +4,7 @@
 #include "platform/qt_print_service.h"
 #include "platform/qt_prompts.h"
 #include "platform/session_end.h"
+#include "platform/start_program.h"
 #include "platform/system_information.h"
 
 #include <QApplication>
@@ -44,7 +45,7 @@ int main(int argc, char** argv) {
     int result = 1;
     guarded(prompts, [&] {
         frmTarlimo window(folder, {printing, prompts, openDocument, [&printing] { return printing.lastPdf(); },
-                                   systemInformationTool()});
+                                   systemInformationTool(), startProgram});
         onTerminationRequest(&window, [&window] { window.close(); });
         window.show();
         result = QApplication::exec();

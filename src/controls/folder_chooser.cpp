@@ -116,15 +116,20 @@ void FolderChooser::keyPressEvent(QKeyEvent* event) {
     if (!isEnter) QWidget::keyPressEvent(event);
 }
 
+QString FolderChooser::drive() const { return Drive1_->currentText(); }
+
 void FolderChooser::openDrive(int index) {
-    openByUser(Drive1_->itemData(index).toString());
+    const QString root = Drive1_->itemData(index).toString();
+    const bool opened = openByUser(root);
     showDrive(); // where the drive isn't ready, the box goes back
+    if (!opened) Q_EMIT driveFailed(QDir::toNativeSeparators(root));
 }
 
-void FolderChooser::openByUser(const QString& folder) {
-    if (!QFileInfo(folder).isDir() || !QDir(folder).isReadable()) return;
+bool FolderChooser::openByUser(const QString& folder) {
+    if (!QFileInfo(folder).isDir() || !QDir(folder).isReadable()) return false;
     fill(folder);
     Q_EMIT pathChanged(path());
+    return true;
 }
 
 void FolderChooser::fill(const QString& folder) {

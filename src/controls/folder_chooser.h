@@ -19,18 +19,22 @@ public:
     void setPath(const QString& path);
     // Of the opened folder: of setPath's text only if that is there.
     QString path() const;
+    // Root of the drive that the opened folder lies on; empty for a folder of the network.
+    QString drive() const;
 
 Q_SIGNALS:
     // The user has opened another folder.
     void pathChanged(const QString& path);
+    // The user wanted a drive that can't be opened.
+    void driveFailed(const QString& root);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void openDrive(int index);
-    // A folder that can't be read leaves the lists as they are.
-    void openByUser(const QString& folder);
+    // False for a folder that can't be read: the lists stay as they are.
+    bool openByUser(const QString& folder);
     void fill(const QString& folder);
     void showDrive();
 

@@ -135,7 +135,7 @@ Result writeAll(QFile& file, LineWriter& lines, qint64 count) {
     const qint64 oldSize = file.size();
     const qint64 oldLines = std::min(count, (oldSize + exportLineLength - 1) / exportLineLength);
     if (!lines.write(oldLines, count)) return file.resize(oldSize) ? Result::notWritten : Result::brokenOff;
-    return lines.write(0, oldLines) ? Result::written : Result::brokenOff;
+    return lines.write(0, oldLines) && flushToDisk(file) ? Result::written : Result::brokenOff;
 }
 
 // The database itself, settings and the like. A CSV file may lie beside them.
@@ -152,7 +152,7 @@ ExportOutcome exportClients(const QString& path, const ProgramFolder& folder, co
     const bool isNew = !QFileInfo::exists(path);
     // Open for reading too, or the toolkit would empty it.
     QFile file(path);
-    if (!finishInterruptedCommit(folder)) return {Result::unreadable};
+    if (finishInterruptedCommit(folder) == Recovery::oldPairKept) return {Result::unreadable};
     LineWriter lines(file, folder, progress);
     if (!lines.canRead()) return {Result::unreadable};
     // A device or a pipe has no places to write at.

@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollBar>
 #include <QSignalBlocker>
 
 #include <algorithm>
@@ -112,6 +113,21 @@ QAbstractButton* BoundView::bindOption(const char* name, const QString& caption,
         option->setChecked(true);
     });
     return option;
+}
+
+QScrollBar* BoundView::bindScroll(int& value, int minimum, const int& maximum, const char* name, const char* tooltip) {
+    auto* bar = named(new QScrollBar(Qt::Horizontal), name, QString::fromUtf8(tooltip));
+    bar->setFocusPolicy(Qt::StrongFocus);
+    connect(bar, &QScrollBar::valueChanged, this, [this, &value, bar](int moved) {
+        value = moved;
+        carryOut(bar);
+    });
+    onShow([&value, minimum, &maximum, bar] {
+        const QSignalBlocker block(bar); // a new range may move the value
+        bar->setRange(minimum, maximum);
+        bar->setValue(value);
+    });
+    return bar;
 }
 
 QPushButton* BoundView::bindButton(const char* name, const QString& caption) {

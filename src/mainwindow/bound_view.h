@@ -14,6 +14,7 @@ class QGroupBox;
 class QLabel;
 class QLineEdit;
 class QPushButton;
+class QScrollBar;
 
 // A view whose widgets are each bound to one member of a tab's values. An edit is written into its member, then the
 // control's rule changes the values, and showValues() brings them to the screen with signals blocked, so a rule runs
@@ -31,6 +32,8 @@ Q_SIGNALS:
     void edited();
 
 protected:
+    const FormContext& context() const { return context_; }
+
     QLineEdit* bindText(QString& value, const char* name, const char* tooltip = "");
     EntryCombo* bindCombo(QString& value, const QStringList& entries, const char* name, const char* tooltip = "");
     QLabel* bindLabel(const QString& value, const char* name, const char* tooltip = "");
@@ -38,6 +41,8 @@ protected:
     // An option button of a group; `isThis` and `choose` are its two directions.
     QAbstractButton* bindOption(const char* name, const QString& caption, std::function<bool()> isThis,
                                 std::function<void()> choose, const char* tooltip = "");
+    // A horizontal bar; its maximum may change with the values.
+    QScrollBar* bindScroll(int& value, int minimum, const int& maximum, const char* name, const char* tooltip = "");
     QPushButton* bindButton(const char* name, const QString& caption);
 
     // The rule that an edit of the control runs. Its parameters behind the tab say what it needs; see supply().

@@ -6,7 +6,6 @@
 #include "records/record_file.h"
 
 #include <algorithm>
-#include <limits>
 
 namespace {
 
@@ -33,11 +32,7 @@ void layOut(LabelTab& tab, int mostColumns, int mostRows) {
 }
 
 // A box that the sheet is stored from must hold a number and nothing else.
-bool isWhole(const QString& box) {
-    constexpr std::int64_t most = std::numeric_limits<std::int16_t>::max();
-    const auto number = wholeNumber(box);
-    return number && *number >= -most && *number <= most;
-}
+bool isWhole(const QString& box) { return wholeI16(box).has_value(); }
 bool isDecimal(const QString& box) { return decimalNumber(box).has_value(); }
 
 Message refusal(const QString& text) { return {Icon::information, titles::attention, text}; }

@@ -1,5 +1,4 @@
 #include "controls/named.h"
-#include "mainwindow/envelope_picture.h"
 #include "mainwindow/form_views.h"
 
 #include <QCheckBox>
@@ -8,8 +7,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
-#include <QScrollBar>
 
 namespace {
 
@@ -57,6 +54,8 @@ constexpr QSizeF senderBlock(62.5, 4 * senderRow), freeLine(58, senderRow), addr
 // Columns of a block, in proportion: the postcode, what the other lines have more, the ticks.
 constexpr int columns[] = {210, 490, 54};
 
+constexpr QMargins tight(8, 4, 8, 4); // in the frames at the side
+
 QLabel* label(const char* name) { return named(new QLabel, name); }
 
 const TypeRow& rowOf(EnvelopeType type) { return types[static_cast<int>(type) - 1]; }
@@ -69,6 +68,7 @@ EnvelopeView::EnvelopeView(EnvelopeTab& tab, const FormContext& context) : FormV
         page()->setPicture(QString::fromLatin1(row.picture), row.mm);
     });
     buildLines();
+    buildPictureBox();
     buildSide();
 }
 
@@ -135,6 +135,7 @@ void EnvelopeView::buildSide() {
     auto* side = new QVBoxLayout;
     side->addWidget(buildTypes());
     side->addWidget(buildSample());
+    side->setSpacing(4); // all of it fits beside the envelope in a window of the design size
     side->addWidget(bindCheck(tab_.chkFelado, "chkFelado", QStringLiteral("Feladó nyomtatása")));
     side->addWidget(bindCheck(tab_.chkCimzett, "chkCimzett", QStringLiteral("Címzett nyomtatása")));
     side->addWidget(bindCheck(tab_.chkKepPrint, "chkKepPrint", QStringLiteral("Kép nyomtatása")));
@@ -146,6 +147,8 @@ void EnvelopeView::buildSide() {
 QWidget* EnvelopeView::buildTypes() {
     QGroupBox* box = frame("Frame2", "Boríték típusa");
     auto* column = new QVBoxLayout(box);
+    column->setContentsMargins(tight);
+    column->setSpacing(2);
     for (const TypeRow& row : types)
         column->addWidget(bindOption(
             row.option, QString::fromUtf8(row.caption), [this, &row] { return tab_.type == row.type; },
@@ -165,6 +168,7 @@ QWidget* EnvelopeView::buildSample() {
     QLabel* width = label("lbBoritekSzeles");
     QLabel* height = label("lbBoritekMagas");
     auto* grid = new QGridLayout(box);
+    grid->setContentsMargins(tight);
     grid->addWidget(sample, 0, 0, 2, 1);
     grid->addWidget(name, 0, 1, 1, 3);
     grid->addWidget(width, 1, 1);
@@ -177,46 +181,6 @@ QWidget* EnvelopeView::buildSample() {
         name->setText(QString::fromUtf8(row.sampleName));
         width->setText(QStringLiteral("%1 mm").arg(row.mm.width()));
         height->setText(QStringLiteral("%1 mm").arg(row.mm.height()));
-    });
-    return box;
-}
-
-// The picture is on view where it was saved; choosing, moving and sizing it isn't built yet.
-QWidget* EnvelopeView::buildPicture() {
-    QGroupBox* box = frame("Frame5", "Kép helyzete és mérete (mm)");
-    auto* find = named(new QPushButton(QStringLiteral("Kép keresés")), "cmdKepek",
-                       QStringLiteral("Kép keresése saját gépen..."));
-    auto* save = named(new QPushButton(QStringLiteral("Kép mentése")), "cmdKepMentese");
-    auto* scale = named(new QScrollBar(Qt::Horizontal), "HScroll1");
-    scale->setRange(1900, 8000);
-    for (QWidget* later : std::initializer_list<QWidget*>{find, save, scale})
-        later->setEnabled(false);
-    auto* grid = new QGridLayout(box);
-    grid->addWidget(new QLabel(QStringLiteral("Bal margó")), 0, 0);
-    grid->addWidget(bindLabel(tab_.lbXpoz, "lbXpoz", "A kép helyzete a bal margótól"), 0, 1);
-    grid->addWidget(new QLabel(QStringLiteral("Felső margó")), 0, 2);
-    grid->addWidget(bindLabel(tab_.lbYpoz, "lbYpoz", "A kép helyzete a felső margótól."), 0, 3);
-    grid->addWidget(scale, 1, 0, 1, 4);
-    grid->addWidget(find, 2, 0, 1, 2);
-    grid->addWidget(save, 2, 2, 1, 2);
-    QLabel* picture = label("Image3");
-    picture->setFrameStyle(QFrame::Box | QFrame::Plain);
-    picture->setText(QStringLiteral("kép"));
-    picture->setScaledContents(true);
-    picture->setAlignment(Qt::AlignCenter);
-    picture->setAttribute(Qt::WA_TransparentForMouseEvents); // the boxes under it stay within reach
-    page()->place(picture, {});
-    QLabel* warning = label("lbFigyelem"); // shown once the picture can be moved off the envelope
-    warning->hide();
-    grid->addWidget(warning, 3, 0, 1, 4);
-    picture->lower(); // the boxes stay readable on it
-    onShow([this, box, picture, shown = qint64{0}]() mutable {
-        page()->place(picture, pictureOnEnvelope(tab_));
-        if (!tab_.picture.isNull() && shown != tab_.picture.cacheKey())
-            picture->setPixmap(QPixmap::fromImage(tab_.picture));
-        shown = tab_.picture.cacheKey();
-        picture->setVisible(tab_.chkKepPrint);
-        box->setVisible(tab_.chkKepPrint);
     });
     return box;
 }

@@ -48,6 +48,10 @@ class EnvelopeView : public FormView {
 public:
     EnvelopeView(EnvelopeTab& tab, const FormContext& context);
 
+Q_SIGNALS:
+    // The picture browser has closed: the window is active again.
+    void browserClosed();
+
 private:
     struct Line {
         QString& value;
@@ -64,6 +68,9 @@ private:
     QWidget* buildTypes();
     QWidget* buildSample();
     QWidget* buildPicture();
+    QLabel* buildWarning();
+    void buildPictureBox();
+    void cmdKepek_Click();
     EnvelopeTab& tab_;
 };
 

@@ -4,11 +4,10 @@
 #include "mainwindow/client_pour.h"
 #include "mainwindow/client_zone.h"
 #include "mainwindow/envelope_label_rules.h"
-#include "mainwindow/envelope_picture.h"
-#include "mainwindow/guarded.h"
 #include "mainwindow/label_cells.h"
 #include "mainwindow/main_menu.h"
 #include "mainwindow/pink_check_rules.h"
+#include "mainwindow/posting_list_actions.h"
 #include "mainwindow/print_panel.h"
 #include "mainwindow/status_line.h"
 #include "mainwindow/tab_strip.h"
@@ -61,11 +60,10 @@ void frmTarlimo::connectParts() {
     connect(SSTab1_, &TabStrip::searchWanted, this, [this](const QString& text) { searchList(text, 0); });
     connect(SSTab1_, &TabStrip::listWanted, clients_, &ClientZone::enterList);
     connect(SSTab1_, &TabStrip::clientWanted, clients_, [this] { clients_->setFocus(); });
-    connect(clients_, &ClientZone::rowClicked, this,
-            [this](int row) { guarded(services_.prompts, [&] { rowClicked(row); }); });
-    connect(clients_, &ClientZone::deletePressed, this, [this] {
-        guarded(services_.prompts, [this] { database_.cmdDel_Click(selected_.rekordszam, tabs_.yellowCheck.txNev); });
-    });
+    connect(SSTab1_, &TabStrip::dialogClosed, this, &frmTarlimo::activate);
+    connect(clients_, &ClientZone::rowClicked, this, &frmTarlimo::rowClicked);
+    connect(clients_, &ClientZone::deletePressed, this,
+            [this] { database_.cmdDel_Click(selected_.rekordszam, tabs_.yellowCheck.txNev); });
     connect(clients_, &ClientZone::addPressed, &entry_, &ClientActions::cmdRogzit_Click);
     connect(clients_, &ClientZone::modifyPressed, &entry_, &ClientActions::cmdModosit_Click);
     connect(clients_, &ClientZone::amountsPressed, &entry_, &ClientActions::cmdOsszegek_Click);
@@ -97,10 +95,12 @@ void frmTarlimo::connectParts() {
 
 void frmTarlimo::connectMenu() {
     onMenu(*menuBar(), "mnuKilep", this, &frmTarlimo::askAndClose);
-    onMenu(*menuBar(), "mnuSetup", this, [this] { guarded(services_.prompts, [this] { showSetup(); }); });
+    onMenu(*menuBar(), "mnuSetup", this, &frmTarlimo::showSetup);
     onMenu(*menuBar(), "mnuUjcimzett", &entry_, &ClientActions::cmdRogzit_Click);
     database_.connectMenu(*menuBar());
     watching_.connectMenu(*menuBar());
+    const auto* posting = new PostingListActions(*this, folder_, services_, printing_);
+    connect(posting, &PostingListActions::settingsClosed, this, &frmTarlimo::activate);
     onMenu(*menuBar(), "mnuImportHelp", this, [this] {
         services_.openDocument(folder_.file(u"Csekk_adat_Import.htm"_s));
     }).setShortcut(Qt::Key_F1);
@@ -150,7 +150,7 @@ void frmTarlimo::restoreControls() {
 
 void frmTarlimo::activate() {
     setWindowTitle(u"Tarlimo program - "_s + QStringLiteral(TARLIMO_VERSION));
-    SSTab1_->refillCatalogues();
+    SSTab1_->activate();
 }
 
 void frmTarlimo::rowClicked(int row) {

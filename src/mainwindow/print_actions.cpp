@@ -15,49 +15,56 @@ using namespace Qt::Literals::StringLiterals;
 
 void PrintActions::press(Press press, Tab tab) {
     if (desk_.work.isBusy()) return;
+    const PrintRequest request{tab, press, desk_.panel.feed()};
+    carryOut([&](const PrintDesk& desk, const ListRows& rows) {
+        PrintOutcome outcome =
+            dispatchPrint(desk, desk_.tabs, request, rows, desk_.selected.record.client.Nev.trimmed());
+        if (const QString differs = amountTrouble(request); outcome.pages > 0 && !differs.isEmpty())
+            outcome.trouble += (outcome.trouble.isEmpty() ? QString() : u" "_s) + differs;
+        return outcome;
+    });
+    Q_EMIT printed(tab);
+}
+
+void PrintActions::mnuCimzettekNyomtatasa_Click() {
+    if (desk_.work.isBusy()) return;
+    carryOut([&](const PrintDesk& desk, const ListRows& rows) { return dispatchPostingList(desk, desk_.tabs, rows); });
+}
+
+void PrintActions::carryOut(const Print& print) {
     const QPointer<QWidget> focus = QApplication::focusWidget();
     desk_.panel.setButtonsEnabled(false);
-    const PrintRequest request{tab, press, desk_.panel.feed()};
-    PrintOutcome outcome = guardedPrint([&] { return print(request); });
-    if (const QString differs = amountTrouble(request); outcome.pages > 0 && !differs.isEmpty())
-        outcome.trouble += (outcome.trouble.isEmpty() ? QString() : u" "_s) + differs;
+    const PrintOutcome outcome = run(print, true);
     desk_.panel.setButtonsEnabled(true);
     report(outcome);
-    Q_EMIT printed(tab);
     if (focus) focus->setFocus(); // a disabled button has passed it on
 }
 
 void PrintActions::printUnattended() {
-    report(guardedPrint([this] {
-        const WorkInProgress::Turn turn(desk_.work);
-        const PrintDesk desk{desk_.device, desk_.services.prompts, desk_.folder, false, shownProgress(), {}};
-        return PrintCsAlloCsekk(desk, desk_.tabs, desk_.clients.rows());
-    }));
+    report(run([this](const PrintDesk& desk, const ListRows& rows) { return PrintCsAlloCsekk(desk, desk_.tabs, rows); },
+               false));
     Q_EMIT printed(Tab::yellowCheck);
 }
 
 // A layout or a client that can't be read prints nothing, least of all at position 0. There is no box: an unattended
 // print may be the one that is stopped.
-PrintOutcome PrintActions::guardedPrint(const std::function<PrintOutcome()>& print) {
+PrintOutcome PrintActions::run(const Print& print, bool attended) {
     PrintOutcome outcome;
-    const QString trouble = troubleOf([&] { outcome = print(); });
+    const QString trouble = troubleOf([&] { outcome = printNow(print, attended); });
     if (trouble.isEmpty()) return outcome;
     desk_.device.KillDoc();
     return {0, {}, trouble};
 }
 
-// One bar for both stages: the pages are written in its first half and handed over in the second.
-PageProgress PrintActions::shownProgress() {
-    return [this](const PagesDone& pages) {
+PrintOutcome PrintActions::printNow(const Print& print, bool attended) {
+    const WorkInProgress::Turn turn(desk_.work);
+    // One bar for both stages: the pages are written in its first half and handed over in the second.
+    const auto progress = [this](const PagesDone& pages) {
         const int before = pages.stage == PrintStage::handingOver ? pages.pages : 0;
         return desk_.work.step(before + pages.done, 2 * pages.pages,
                                u"%1. lap / %2…"_s.arg(pages.done).arg(pages.pages),
                                pages.canCancel ? WorkInProgress::Cancel::possible : WorkInProgress::Cancel::impossible);
     };
-}
-
-PrintOutcome PrintActions::print(const PrintRequest& request) {
-    const WorkInProgress::Turn turn(desk_.work);
     const ListRows rows = desk_.clients.rows();
     std::size_t takenOut = 0;
     const auto takeSelectedOut = [&] {
@@ -65,8 +72,7 @@ PrintOutcome PrintActions::print(const PrintRequest& request) {
         takenOut = rows.selected.size();
     };
     PrintOutcome outcome =
-        dispatchPrint({desk_.device, desk_.services.prompts, desk_.folder, true, shownProgress(), takeSelectedOut},
-                      desk_.tabs, request, rows, desk_.selected.record.client.Nev.trimmed());
+        print({desk_.device, desk_.services.prompts, desk_.folder, attended, progress, takeSelectedOut}, rows);
     if (takenOut > 0) outcome.trouble.prepend(u"%1 sor levéve a listáról. "_s.arg(takenOut));
     return outcome;
 }

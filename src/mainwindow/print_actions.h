@@ -31,15 +31,18 @@ public:
     void press(Press press, Tab tab);
     // Prints a yellow check for each client of the list, with no dialog and no question.
     void printUnattended();
+    // Prints the names of the selected clients over the posting list.
+    void mnuCimzettekNyomtatasa_Click();
 
 Q_SIGNALS:
     // A press has been carried out, whatever came of it.
     void printed(Tab tab);
 
 private:
-    PrintOutcome print(const PrintRequest& request);
-    PrintOutcome guardedPrint(const std::function<PrintOutcome()>& print);
-    PageProgress shownProgress();
+    using Print = std::function<PrintOutcome(const PrintDesk&, const ListRows&)>;
+    void carryOut(const Print& print);
+    PrintOutcome run(const Print& print, bool attended);
+    PrintOutcome printNow(const Print& print, bool attended);
     QString amountTrouble(const PrintRequest& request) const;
     void report(const PrintOutcome& outcome);
 

@@ -7,6 +7,7 @@
 #include "printing/label_sheet.h"
 #include "printing/pen.h"
 #include "printing/pink_check.h"
+#include "printing/posting_list.h"
 #include "printing/posting_receipt.h"
 #include "printing/return_receipt.h"
 #include "printing/yellow_check.h"
@@ -140,19 +141,32 @@ bool isBatchMeant(const PrintDesk& desk, const FormTabs& tabs, const PrintReques
     return question.isEmpty() || confirms(desk.prompts, question);
 }
 
-// Labels print on the device and the page that the last job has left; empty where these are as they should be.
-QString sheetQuestion(const PrintDevice& device, const Set& set) {
+bool isChosenDevice(const PrintDevice& device, const Set& set) {
+    return set.opPrinter_1 ? device.followsDefault() : device.currentPrinter() == set.lbPrintNo;
+}
+
+// Labels and the posting list print on the device and the page that the last job has left; the questions are empty
+// where these are as they should be.
+QString labelSheetQuestion(const PrintDevice& device, const Set& set) {
     if (device.pageSetup() != PageSetup{})
         return u"A nyomtató beállítása nem álló A4-es lap.\n\nÁtállítsam álló A4-re a nyomtatás előtt?"_s;
-    const bool isChosen = set.opPrinter_1 ? device.followsDefault() : device.currentPrinter() == set.lbPrintNo;
-    return isChosen ? QString()
-                    : u"A cimkék nem a beállított nyomtatóra kerülnének.\n\nÁtállítsam arra a nyomtatás előtt?"_s;
+    return isChosenDevice(device, set)
+               ? QString()
+               : u"A cimkék nem a beállított nyomtatóra kerülnének.\n\nÁtállítsam arra a nyomtatás előtt?"_s;
+}
+
+// The posting list turns the page across by itself.
+QString postingListQuestion(const PrintDevice& device, const Set& set) {
+    const PageSetup& page = device.pageSetup();
+    const bool isA4 = !page.sizeMm && page.paperSize == PageSetup{}.paperSize;
+    if (isA4 && isChosenDevice(device, set)) return {};
+    return u"A nyomtató beállítása nem A4-es lap.\n\nÁtállítsam A4-re a nyomtatás előtt?"_s;
 }
 
 // Puts both in order if the clerk says so. The outcome's trouble tells that it failed.
-PrintOutcome prepareSheet(const PrintDesk& desk) {
+PrintOutcome prepareSheet(const PrintDesk& desk, QString (*questionFor)(const PrintDevice&, const Set&)) {
     const auto set = readRecord<Set>(desk.folder);
-    const QString question = sheetQuestion(desk.device, set);
+    const QString question = questionFor(desk.device, set);
     if (question.isEmpty() || desk.prompts.ask({Icon::question, titles::warning, question}) == Answer::no) return {};
     Pen pen(desk, FailureWay::message, {}, FirstPage::asLeft);
     pen.SelectPrinter(set, TrackDefault::set);
@@ -173,6 +187,11 @@ PrintOutcome dispatchPrint(const PrintDesk& desk, const FormTabs& tabs, const Pr
     const bool meant = request.press == single ? isSingleMeant(desk, tabs.yellowCheck, shownName)
                                                : isBatchMeant(desk, tabs, request, rows);
     if (!meant) return nothing(u"A nyomtatást nem kérted."_s);
-    const PrintOutcome prepared = request.tab == Tab::label ? prepareSheet(desk) : PrintOutcome();
+    const PrintOutcome prepared = request.tab == Tab::label ? prepareSheet(desk, labelSheetQuestion) : PrintOutcome();
     return prepared.trouble.isEmpty() ? print(desk, tabs, rows) : prepared;
+}
+
+PrintOutcome dispatchPostingList(const PrintDesk& desk, const FormTabs& tabs, const ListRows& rows) {
+    const PrintOutcome prepared = rows.selected.empty() ? PrintOutcome() : prepareSheet(desk, postingListQuestion);
+    return prepared.trouble.isEmpty() ? PrintFeladojegyzek(desk, tabs, rows) : prepared;
 }

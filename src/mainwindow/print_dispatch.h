@@ -16,3 +16,7 @@ struct PrintRequest {
 // the name of the client last clicked. Where nothing prints, the outcome's trouble says why.
 PrintOutcome dispatchPrint(const PrintDesk& desk, const FormTabs& tabs, const PrintRequest& request,
                            const ListRows& rows, const QString& shownName);
+
+// Prints the names of the selected clients over the posting list, after the question whether the page is as it should
+// be.
+PrintOutcome dispatchPostingList(const PrintDesk& desk, const FormTabs& tabs, const ListRows& rows);

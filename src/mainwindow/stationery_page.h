@@ -26,6 +26,9 @@ public:
     // Puts a child at `mm`; its letters are `letterMm` high (a 10 point letter is 3.5 mm).
     void place(QWidget* child, QRectF mm, double letterMm = 2.75);
 
+    // What lies at a point of this widget, mm of the stationery.
+    QPointF mmAt(QPointF point) const { return (point - formRect().topLeft()) / pixelsPerMm(); }
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 

@@ -35,9 +35,11 @@ TabStrip::TabStrip(FormTabs& tabs, const FormContext& context) : tabs_(tabs), co
         addTab(new PageScroll(view), QString::fromUtf16(row.caption));
     }
     yellowCheck_ = findChild<YellowCheckView*>();
+    envelope_ = findChild<EnvelopeView*>();
     labels_ = findChild<LabelView*>();
     yellowCheck_->searchBox()->installEventFilter(this);
     connect(yellowCheck_, &YellowCheckView::searchWanted, this, &TabStrip::searchWanted);
+    connect(envelope_, &EnvelopeView::browserClosed, this, &TabStrip::dialogClosed);
     connect(labels_, &LabelView::clientWanted, this, &TabStrip::clientWanted);
     connect(this, &QTabWidget::currentChanged, this, &TabStrip::store);
     connect(tabBar(), &QTabBar::tabBarClicked, this, [this](int clicked) {
@@ -73,13 +75,15 @@ void TabStrip::showValues() {
 
 void TabStrip::offerFonts(const QStringList& fonts) { labels_->offerFonts(fonts); }
 
-void TabStrip::refillCatalogues() {
+void TabStrip::activate() {
     YellowCheckTab& check = tabs_.yellowCheck;
     for (QString* text : {&check.Kozlemeny1, &check.txtJogcim1, &check.txtJogcim2})
         text->clear();
     const ProgramFolder& folder = context_.folder;
     yellowCheck_->offerCatalogues(
         {titleList(folder), secondTitleList(folder, QDate::currentDate()), noticeList(folder)});
+    fitPicture(tabs_.envelope);
+    envelope_->showValues();
 }
 
 void TabStrip::focusAmount() {

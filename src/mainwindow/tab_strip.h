@@ -4,6 +4,7 @@
 
 #include <QTabWidget>
 
+class EnvelopeView;
 class LabelView;
 class YellowCheckView;
 
@@ -20,8 +21,9 @@ public:
     void restore(int stored);
     // Fonts that the label tab offers.
     void offerFonts(const QStringList& fonts);
-    // Empties the notice and the titles and fills their lists anew.
-    void refillCatalogues();
+    // The window is active again: the notice and the titles are emptied and their lists filled anew, and the picture
+    // of the envelope is read if its file is another one.
+    void activate();
 
     void showValues();
     // The settings record that the tab in view shows, as bytes; empty if it shows none.
@@ -39,6 +41,8 @@ Q_SIGNALS:
     void searchWanted(const QString& text);
     // Down in the search box.
     void listWanted();
+    // A dialog of a tab has closed.
+    void dialogClosed();
     // A client has to be clicked before what was tried.
     void clientWanted();
 
@@ -52,5 +56,6 @@ private:
     FormContext context_;
     std::vector<BoundView*> views_;
     YellowCheckView* yellowCheck_;
+    EnvelopeView* envelope_;
     LabelView* labels_;
 };

@@ -15,4 +15,6 @@ struct WindowServices {
     std::function<QString()> lastPdf;
     // Starts the platform's system information tool; empty where there is none.
     std::function<void()> openSystemInformation;
+    // Starts another program with one argument; false if it can't be started.
+    std::function<bool(const QString& program, const QString& argument)> startProgram;
 };

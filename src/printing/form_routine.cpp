@@ -38,11 +38,6 @@ void announce(Pen& pen, const PrintDesk& desk, const FormRoutine& routine, const
     askForManyPages(pen, desk, static_cast<int>(numbers.size()));
 }
 
-void checkNumbers(Pen& pen, const std::vector<int>& numbers) {
-    if (numbers.empty()) pen.Note(u"Nincs kijelölt ügyfél."_s);
-    if (!std::all_of(numbers.begin(), numbers.end(), isClientNumber)) pen.Fail(6, u"Túlcsordulás"_s);
-}
-
 // The numbers are known by now, so the rows may go. They go even if the device should fail from here on.
 void takeClientsOut(const Pen& pen, const PrintDesk& desk, const Set& set) {
     if (!pen.stopped() && set.chkPrintDel > 0 && desk.takeSelectedOut) desk.takeSelectedOut();
@@ -64,6 +59,11 @@ void printPages(Pen& pen, const ProgramFolder& folder, bool readsTwin, const std
 }
 
 } // namespace
+
+void checkNumbers(Pen& pen, const std::vector<int>& numbers) {
+    if (numbers.empty()) pen.Note(u"Nincs kijelölt ügyfél."_s);
+    if (!std::all_of(numbers.begin(), numbers.end(), isClientNumber)) pen.Fail(6, u"Túlcsordulás"_s);
+}
 
 void askForManyPages(Pen& pen, const PrintDesk& desk, int pages) {
     if (!desk.attended || pen.stopped() || pages < manyPages) return;

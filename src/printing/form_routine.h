@@ -37,6 +37,10 @@ PrintOutcome printOne(const PrintDesk& desk, const FormRoutine& routine, const P
 PrintOutcome printEach(const PrintDesk& desk, const FormRoutine& routine, const ListRows& rows,
                        const PrintClient& print);
 
+// Before the first page of a list of clients: notes that there is none. A number that cannot be a record number is
+// error 6, "Túlcsordulás".
+void checkNumbers(Pen& pen, const std::vector<int>& numbers);
+
 // Before the first page of a job without a print dialog: many pages are asked for, and a no drops the job. Automatic
 // printing isn't asked.
 void askForManyPages(Pen& pen, const PrintDesk& desk, int pages);

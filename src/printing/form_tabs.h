@@ -1,9 +1,7 @@
 #pragma once
 
-#include "records/stored_types.h"
+#include "picture/envelope_picture.h"
 
-#include <QImage>
-#include <QRectF>
 #include <QString>
 #include <QStringList>
 
@@ -52,23 +50,14 @@ struct PostingReceiptTab {
     bool chkSK = false, chkPRI = false, chkPL = false, chkLEGI = false, chk5 = false, chk6 = false;
 };
 
-enum class EnvelopeType { C6 = 1, C5 = 2, C56 = 3 };
-
-struct EnvelopeTab {
-    EnvelopeType type = EnvelopeType::C6; // OpB1, OpB2, OpB3
-    bool chkFelado = true, chkCimzett = true;
+struct EnvelopeTab : EnvelopePicture {
+    bool chkFelado = true, chkCimzett = true, chkKepPrint = false; // what prints
     QString txtBoritekFeladoNev, txtBoritekFeladoCim1, txtBoritekFeladoCim2, txtBoritekFeladoIrSzam;
     bool chkFKFNev = false, chkFKFCim1 = false, chkFKFCim2 = false, chkFKFIrsz = false;
     QString txtBoritekCimzettNev, txtBoritekCimzettNev2, txtBoritekCimzettCim1, txtBoritekCimzettCim2;
     QString txtBoritekCimzettIrSzam;
     bool chkFKCNev = false, chkFKCNev2 = false, chkFKCCim1 = false, chkFKCCim2 = false, chkFKCIrsz = false;
     QString txtFelado5mezo;
-    bool chkKepPrint = false;
-    QString kepFajl;               // path of the picture; empty for none
-    QImage picture;                // as loaded, on white paper; nothing prints while it is null
-    QRectF Image3;                 // its box, twips of the screen; what follows is worked out from it
-    QString lbXpoz, lbYpoz;        // its position on the envelope, whole mm, as shown
-    Cur kepSzeles{0}, kepMagas{0}; // its printed size, cm
 };
 
 struct LabelTab {

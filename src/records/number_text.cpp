@@ -110,6 +110,13 @@ std::optional<std::int64_t> wholeNumber(QStringView text) {
     return number ? std::optional(withSign(*number, valueOf(number->whole, false))) : std::nullopt;
 }
 
+std::optional<std::int16_t> wholeI16(QStringView text) {
+    using Limits = std::numeric_limits<std::int16_t>;
+    const auto number = wholeNumber(text);
+    if (!number || *number < Limits::min() || *number > Limits::max()) return std::nullopt;
+    return static_cast<std::int16_t>(*number);
+}
+
 std::optional<Cur> decimalNumber(QStringView text) {
     const std::optional<Digits> number = strictDigits(text.toString().replace(u',', u'.'));
     return number ? std::optional(toCur(*number)) : std::nullopt;

@@ -15,7 +15,9 @@ std::int16_t leadingI16(QStringView text);
 
 // Strictly: a text that holds anything but a number (blanks at its ends, "-", digits) is nothing.
 std::optional<std::int64_t> wholeNumber(QStringView text);
-// The same with one point or comma among the digits; rounded to four places.
+// The same, nothing as well where 16 bits can't hold it.
+std::optional<std::int16_t> wholeI16(QStringView text);
+// As wholeNumber, with one point or comma among the digits; rounded to four places.
 std::optional<Cur> decimalNumber(QStringView text);
 
 // Amounts in forints, as they stand in a box or a file. Blanks (also no-break and thin ones) count nowhere. A point or

@@ -72,6 +72,9 @@ public:
     QString trimmed() const;
     // Pads with blanks and silently cuts what is longer than the field.
     void set(QStringView text);
+    // Whether trimmed() gives a text back as it was set: it is not too long, has letters of Windows-1250 alone and no
+    // blanks at its ends.
+    static bool keeps(QStringView text) { return Text(text).trimmed() == text; }
 
     const char* data() const { return bytes_.data(); }
     char* data() { return bytes_.data(); }

@@ -11,6 +11,9 @@ struct FjSet {
     I16 txtBal;
     I16 txtFelso;
     Text<100> txtExcelUtvonal;
+
+    // Where the names fall into the rows of the delivered form.
+    static FjSet firstRun() { return {I16(65), I16(70), Text<100>(u"")}; }
 };
 static_assert(sizeof(FjSet) == 104);
 

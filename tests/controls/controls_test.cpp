@@ -134,6 +134,8 @@ TEST(FolderChooser, OpensByKeyAndByDriveWhatCanBeRead) {
     FolderChooser chooser;
     QStringList told;
     QObject::connect(&chooser, &FolderChooser::pathChanged, [&told](const QString& path) { told << path; });
+    QString failed;
+    QObject::connect(&chooser, &FolderChooser::driveFailed, [&failed](const QString& root) { failed = root; });
     chooser.setPath(folder.path());
     auto* list = chooser.findChild<QTreeWidget*>("Dir1");
     QTreeWidgetItem* opened = list->currentItem();
@@ -151,6 +153,8 @@ TEST(FolderChooser, OpensByKeyAndByDriveWhatCanBeRead) {
     drive->setCurrentIndex(drive->count() - 1);
     Q_EMIT drive->activated(drive->count() - 1);
     EXPECT_EQ(drive->currentIndex(), before);
+    EXPECT_EQ(failed, QDir::toNativeSeparators(u"/nincs ilyen meghajtó"_s));
+    EXPECT_EQ(chooser.drive(), drive->currentText());
     drive->setCurrentIndex(0);
     Q_EMIT drive->activated(0);
     EXPECT_EQ(chooser.path(), drive->itemText(0));

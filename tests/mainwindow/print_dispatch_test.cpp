@@ -233,4 +233,35 @@ TEST_F(PrintDispatch, LabelsAskForAnUprightA4PageOnTheChosenPrinter) {
     EXPECT_EQ(prompts.told.at(0).title, QStringLiteral("! HIBA !"));
 }
 
+TEST_F(PrintDispatch, ThePostingListAsksForAnA4PageOnTheChosenPrinter) {
+    const auto print = [&] { return dispatchPostingList(desk, tabs, rows); };
+    const struct {
+        std::function<void()> before;
+        bool asks;
+        int asLeft; // device that a no prints on; a yes takes device 1
+    } states[] = {
+        {[&] { device.setCurrentPrinter(1); }, false, 1}, {[&] { device.setOrientation(2); }, false, 1},
+        {[&] { device.setCurrentPrinter(0); }, true, 0},  {[&] { device.setPaperSize(28); }, true, 1},
+        {[&] { device.setSizeMm(210, 105); }, true, 1},
+    };
+    for (int number = 0; const auto& state : states) {
+        SCOPED_TRACE(++number);
+        for (const Answer answer : {Answer::no, Answer::yes}) {
+            state.before();
+            PageSetup left = device.pageSetup();
+            left.orientation = 2;
+            if (state.asks) prompts.answers = {answer};
+            ASSERT_EQ(print().pages, 1);
+            EXPECT_EQ(lastJob().printer, answer == Answer::yes ? 1 : state.asLeft);
+            EXPECT_EQ(lastSetup(), answer == Answer::yes ? (PageSetup{2, 9, {}}) : left);
+            if (!state.asks) continue;
+            EXPECT_EQ(::joined(prompts.asked.back()),
+                      " FIGYELEM |A nyomtató beállítása nem A4-es lap.\n\nÁtállítsam A4-re a nyomtatás előtt?");
+        }
+    }
+    device.setPaperSize(28);
+    rows.selected.clear();
+    EXPECT_EQ(print().trouble, QStringLiteral("Nincs kijelölt ügyfél.")); // without a question
+}
+
 } // namespace

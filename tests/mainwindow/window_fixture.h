@@ -52,7 +52,9 @@ protected:
     WindowService service;
     WindowPrompts prompts;
     QString lastPdf;
-    QStringList opened; // documents
+    QStringList opened;  // documents
+    QStringList started; // programs and their arguments
+    bool startsPrograms = true;
     std::unique_ptr<frmTarlimo> window;
 
     WindowTest() {
@@ -62,8 +64,12 @@ protected:
 
     // Starts the program on what lies in the folder; a second call is the next start.
     void open() {
+        const auto start = [this](const QString& program, const QString& argument) {
+            started << program << argument;
+            return startsPrograms;
+        };
         const WindowServices services{
-            service, prompts, [this](const QString& path) { opened << path; }, [this] { return lastPdf; }, {}};
+            service, prompts, [this](const QString& path) { opened << path; }, [this] { return lastPdf; }, {}, start};
         window = std::make_unique<frmTarlimo>(files.folder(), services);
         window->show();
     }

@@ -1,4 +1,5 @@
 #include "mainwindow/status_line.h"
+#include "settings/other_settings.h"
 #include "settings/receipt_layouts.h"
 #include "window_fixture.h"
 
@@ -225,6 +226,28 @@ TEST_F(WindowPrint, FailuresAreToldAndTheNextPressWorks) {
     service.refuseWith = 0;
     press("cmdPrint");
     EXPECT_EQ(service.delivered.size(), 1U);
+}
+
+TEST_F(WindowPrint, ThePostingListTakesTheSelectedClients) {
+    clickRow(1, Qt::ControlModifier);
+    prompts.answers = {Answer::yes}; // the device isn't the chosen one yet
+    choose("mnuCimzettekNyomtatasa");
+    EXPECT_EQ(status(), "1 oldal kinyomtatva: Elso. ");
+    EXPECT_TRUE(printed(0, "Kiss Anna") && printed(0, "Nagy Béla"));
+    EXPECT_EQ(rows(), "[Kiss Anna]|[Nagy Béla]");
+}
+
+TEST_F(WindowPrint, TheBlankPostingListOpensInTheSpreadsheetProgram) {
+    auto set = zeroRecord<FjSet>();
+    set.txtExcelUtvonal.set(u"/opt/a calc");
+    files.store(set);
+    choose("mnuUresFeladojegyzek");
+    const QString workbook = files.folder().file(QStringLiteral("Feladójegyzéküres.xls"));
+    EXPECT_EQ(started, (QStringList{QStringLiteral("/opt/a calc"), workbook}));
+    startsPrograms = false;
+    choose("mnuUresFeladojegyzek",
+           [](const QWidget& dialog) { EXPECT_EQ(dialog.objectName(), QStringLiteral("frmFjSetup")); });
+    EXPECT_EQ(joined(prompts.told.at(0)), "HIBA|Hibás az Excel útvonala...\nEllenőrízze a Beállításban!");
 }
 
 } // namespace

@@ -138,7 +138,7 @@ TEST_F(WindowStart, MenuAsksBeforeClosingAndTheBoxDoesNot) {
 TEST_F(WindowStart, OwnWindowsEmptyNoticeAndTitlesOnReturn) {
     open();
     int entries = 0;
-    for (const char* menuEntry : {"mnuSetup", "mnuAbout"}) {
+    for (const char* menuEntry : {"mnuSetup", "mnuAbout", "mnuFeladojegyzekSetup"}) {
         for (const char* box : {"Kozlemeny1", "txtJogcim1", "txtJogcim2", "Kozlemeny2"})
             type(box, QStringLiteral("szöveg"));
         choose(menuEntry, [&](const QWidget&) { entries += appendEntry(files, notices, u"szöveg") ? 1 : 0; });

@@ -5,6 +5,7 @@
 #include "settings/check_layouts.h"
 #include "settings/envelope_label_settings.h"
 #include "settings/general_settings.h"
+#include "settings/other_settings.h"
 #include "settings/receipt_layouts.h"
 
 #include <QDir>
@@ -15,9 +16,9 @@
 #include <functional>
 
 // make_program_folder <assets folder> <target folder>
-// Fills a folder with all that the program needs beside itself: pictures, postcode tables, help page, sample clients,
-// factory settings. What the user may have changed there, the settings, is written only where it is missing; all else
-// is made anew when its source, or this tool, is newer.
+// Fills a folder with all that the program needs beside itself: pictures, postcode tables, help page, blank posting
+// list, sample clients, factory settings. What the user may have changed there, the settings, is written only where it
+// is missing; all else is made anew when its source, or this tool, is newer.
 
 namespace {
 
@@ -117,6 +118,7 @@ void makeAll(FolderMaker& maker) {
     maker.file(QStringLiteral("postcodes/budapest.csv"), QStringLiteral("Budapest.dat"),
                [](const QString& source) { return postcodes(budapestTable, source); });
     maker.folder(QStringLiteral("help"), QStringLiteral("*.htm"), QStringLiteral(".htm"), contents);
+    maker.file(QStringLiteral("posting_list/Feladojegyzekures.xls"), QStringLiteral("Feladójegyzéküres.xls"), contents);
     maker.folder(QStringLiteral("sample"), QStringLiteral("*.csv"), QStringLiteral(".csv"), contents);
 
     maker.record(firstSet());
@@ -128,6 +130,7 @@ void makeAll(FolderMaker& maker) {
     maker.record(boritek::firstRun());
     maker.record(Betutip::firstRun());
     maker.record(Betumeret::firstRun());
+    maker.record(FjSet::firstRun());
 }
 
 } // namespace

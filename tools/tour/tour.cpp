@@ -67,7 +67,7 @@ QString Tour::freshFolder(const QString& delivered) {
 int Tour::run() {
     window_ = std::make_unique<frmTarlimo>(
         folder_,
-        WindowServices{printing_, prompts_, [](const QString&) {}, [this] { return printing_.lastPdf(); }, {}});
+        WindowServices{printing_, prompts_, [](const QString&) {}, [this] { return printing_.lastPdf(); }, {}, {}});
     window_->resize(1240, 711); // the design size: the offscreen platform's screen is smaller
     window_->show();
     check(QTest::qWaitForWindowExposed(window_.get()), QStringLiteral("the window opens"));
@@ -80,6 +80,8 @@ int Tour::run() {
     printForms("cmdPrint", QStringLiteral("egyes"), 1);
     printBatches();
     printLabels();
+    printPostingList();
+    placePicture();
     moveSettings();
     openCatalogues();
     exchangeData();
@@ -134,6 +136,11 @@ void Tour::type(const char* box, const QString& text) {
 
 void Tour::print(const char* button, const QString& form, int pages) {
     click(button);
+    keepPdf(form, pages);
+}
+
+// What has just been printed, among the results.
+void Tour::keepPdf(const QString& form, int pages) {
     const QString status = window_->statusBar()->currentMessage();
     check(status.startsWith(QStringLiteral("%1 oldal kinyomtatva").arg(pages)), form + QStringLiteral(": ") + status);
     const QString target = results_ + u'/' + form + QStringLiteral(".pdf");
@@ -282,7 +289,7 @@ void Tour::printLabels() {
     click("chkEgyediCimke");
 }
 
-// Opens a modal dialog by `open` and lets `act` work with it; it is closed afterwards.
+// Opens a modal dialog by `open` and lets `act` work with it; if it doesn't close it, it is closed afterwards.
 void Tour::inDialog(const std::function<void()>& open, const std::function<void(QDialog&)>& act) {
     QTimer::singleShot(100, [this, act] {
         auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
@@ -291,7 +298,7 @@ void Tour::inDialog(const std::function<void()>& open, const std::function<void(
         dialog->resize(dialog->sizeHint()); // the offscreen platform's screen is smaller than a real one
         QTest::qWait(30);
         act(*dialog);
-        dialog->reject();
+        if (dialog->isVisible()) dialog->reject();
     });
     open();
 }
@@ -373,13 +380,18 @@ void Tour::openCatalogues() {
     });
 }
 
-void Tour::closeAndReopen() {
-    showTab(6);
+// The next start.
+void Tour::reopen() {
     window_->close();
     window_ = std::make_unique<frmTarlimo>(
         folder_,
-        WindowServices{printing_, prompts_, [](const QString&) {}, [this] { return printing_.lastPdf(); }, {}});
+        WindowServices{printing_, prompts_, [](const QString&) {}, [this] { return printing_.lastPdf(); }, {}, {}});
     window_->show();
+}
+
+void Tour::closeAndReopen() {
+    showTab(6);
+    reopen();
     check(window_->findChild<QTabWidget*>(QStringLiteral("SSTab1"))->currentIndex() == 6,
           QStringLiteral("the next start comes back to the tab"));
 }

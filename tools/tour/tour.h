@@ -56,6 +56,7 @@ private:
     void showTab(int tab);
     void type(const char* box, const QString& text);
     void print(const char* button, const QString& form, int pages);
+    void keepPdf(const QString& form, int pages);
 
     void importClients();
     void enterClients();
@@ -69,6 +70,12 @@ private:
     void selectBatch(int clients);
     void printBatches();
     void printLabels();
+    void printPostingList();
+    void placePicture();
+    void findPicture();
+    void dragPicture(QPointF mm);
+    void printWithPicture(const char* button, const QString& name, int pages);
+    void reopen();
     void inDialog(const std::function<void()>& open, const std::function<void(QDialog&)>& act);
     void openSetup(const std::function<void(QDialog&)>& act);
     void shootDialog(QDialog& dialog, const QString& name);

@@ -2,10 +2,11 @@
 
 #include "controls/named.h"
 #include "prompts/titles.h"
-#include "settings/setup/number_box.h"
+#include "records/number_text.h"
 #include "settings/setup/save_note.h"
 
 #include <QHBoxLayout>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 
@@ -170,7 +171,7 @@ void EnvelopeTypes::choose(std::size_t type) {
 // The first bad box is the one to go to.
 bool EnvelopeTypes::refuses() const {
     const auto bad =
-        std::find_if(text1_.begin(), text1_.end(), [](const QLineEdit* box) { return !isWhole16(box->text()); });
+        std::find_if(text1_.begin(), text1_.end(), [](const QLineEdit* box) { return !wholeI16(box->text()); });
     if (bad == text1_.end()) return false;
     prompts_.tell({Icon::critical, titles::error,
                    QStringLiteral("Hibás szám: ''%1''\nIde csak szám írható!").arg((*bad)->text())});

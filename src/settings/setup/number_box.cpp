@@ -5,8 +5,6 @@
 #include <QRegularExpression>
 #include <QValidator>
 
-#include <limits>
-
 namespace {
 
 class PointValidator : public QValidator {
@@ -25,17 +23,11 @@ bool beginsWithNumber(const QString& text) {
 }
 
 QString warningFor(NumberRule rule, const QString& text) {
-    if (rule == NumberRule::whole) return isWhole16(text) ? QString() : QStringLiteral("Ide csak egész szám írható");
+    if (rule == NumberRule::whole) return wholeI16(text) ? QString() : QStringLiteral("Ide csak egész szám írható");
     return beginsWithNumber(text) ? QString() : QStringLiteral("Nem szám: 0 lesz belőle");
 }
 
 } // namespace
-
-bool isWhole16(const QString& text) {
-    const auto number = wholeNumber(text);
-    using Limits = std::numeric_limits<std::int16_t>;
-    return number && *number >= Limits::min() && *number <= Limits::max();
-}
 
 NumberBox::NumberBox(NumberRule rule, QWidget* parent) : QLineEdit(parent), rule_(rule), mark_(new WarningMark(this)) {
     if (rule == NumberRule::leading) setValidator(new PointValidator(this));

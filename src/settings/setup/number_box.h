@@ -8,8 +8,6 @@ enum class NumberRule {
     whole,   // it must be a whole number of 16 bits, or it is refused
 };
 
-bool isWhole16(const QString& text);
-
 // A box for one number, which takes any text. While it holds one that is no number, a mark says what becomes of it.
 // Where the leading number counts, a comma turns into the point that numbers are read by.
 class NumberBox : public QLineEdit {
