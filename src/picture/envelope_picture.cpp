@@ -22,7 +22,7 @@ struct TypeRow {
 constexpr TypeRow types[] = {{44, 114}, {31, 162}, {44, 114}};
 const TypeRow& rowOf(EnvelopeType type) { return types[static_cast<int>(type) - 1]; }
 
-constexpr double largestStored = 100000; // twips: no envelope holds more, and a record that says more is damaged
+constexpr double largestStored = 100000; // twips: no envelope holds as much, and a record that says so is damaged
 constexpr int mostPrintedPixels = 4096;  // on the longer side: sharp enough for the largest envelope
 
 QString wholeMm(double mm) { return qRound(mm) == 0 ? QString() : QString::number(qRound(mm)); }
@@ -65,11 +65,12 @@ void testLowerEdge(EnvelopePicture& picture) {
 } // namespace
 
 void restorePicture(EnvelopePicture& picture, const Kepment& stored) {
-    const QSizeF size(double{stored.Width.toFloat()}, double{stored.Height.toFloat()});
+    const auto side = [](const Cur& twips) { return std::clamp(double{twips.toFloat()}, 0.0, largestStored); };
+    const QSizeF size(side(stored.Width), side(stored.Height));
     picture.Image3 = QRectF(QPointF(stored.Left, stored.Top), size);
     picture.kepFajl = stored.kepFajl.trimmed();
     const double larger = std::max(size.width(), size.height());
-    picture.HScroll1 = larger > leastScroll && larger <= largestStored ? qRound(larger) : leastScroll;
+    picture.HScroll1 = larger > leastScroll && larger < largestStored ? qRound(larger) : leastScroll;
     picture.HScroll1Max = std::max(picture.HScroll1Max, picture.HScroll1);
     showPicturePosition(picture);
 }
