@@ -1,11 +1,13 @@
 #include "mainwindow/frmTarlimo.h"
 #include "mainwindow/guarded.h"
 #include "platform/open_document.h"
+#include "platform/program_lock.h"
 #include "platform/qt_print_service.h"
 #include "platform/qt_prompts.h"
 #include "platform/session_end.h"
 #include "platform/start_program.h"
 #include "platform/system_information.h"
+#include "prompts/titles.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -28,6 +30,12 @@ private:
     QtPrompts prompts_{QString()};
 };
 
+bool mayRunBeside(const QString& holder, Prompts& prompts) {
+    const QString question = QStringLiteral("A program ezzel a mappával már fut (%1).\n"
+                                            "Két példány egyszerre elronthatja egymás adatait!\n\nMégis elindítsam?");
+    return prompts.ask({Icon::question, titles::attention, question.arg(holder)}, Answer::no) == Answer::yes;
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -40,8 +48,11 @@ int main(int argc, char** argv) {
         QApplication::installTranslator(&toolkit);
     QApplication::setWindowIcon(QIcon(folder.file(QStringLiteral("tarlimo.png"))));
 
-    QtPrintService printing(folder);
     QtPrompts prompts(folder.path());
+    const ProgramLock lock(folder);
+    if (!lock.holder().isEmpty() && !mayRunBeside(lock.holder(), prompts)) return 0;
+
+    QtPrintService printing(folder);
     int result = 1;
     guarded(prompts, [&] {
         frmTarlimo window(folder, {printing, prompts, openDocument, [&printing] { return printing.lastPdf(); },

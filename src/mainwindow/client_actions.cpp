@@ -2,6 +2,7 @@
 
 #include "clients/dialogs/address_list.h"
 #include "clients/dialogs/frmOsszegek.h"
+#include "mainwindow/client_zone.h"
 #include "prompts/messages.h"
 
 #include <QStackedWidget>
@@ -9,7 +10,8 @@
 ClientActions::ClientActions(const Desk& desk)
     : desk_(desk)
     , addresses_(new AddressList)
-    , entry_(new frmFelvet(desk.folder, desk.prompts, &desk.window)) {
+    , entry_(new frmFelvet(
+          desk.folder, desk.prompts, [this] { return desk_.clients.checkFile(); }, &desk.window)) {
     desk.pane.addWidget(addresses_);
     connect(entry_, &frmFelvet::changed, this, &ClientActions::changed);
     connect(entry_, &frmFelvet::said, this, &ClientActions::said);

@@ -6,6 +6,7 @@
 #include "printing/form_tabs.h"
 
 class AddressList;
+class ClientZone;
 class QStackedWidget;
 
 // What a clerk does to one client: the entry dialog with the choice of addresses, and the dialog of amounts.
@@ -21,6 +22,7 @@ public:
         SelectedClient& selected;
         QWidget& window;
         QStackedWidget& pane;
+        ClientZone& clients;
     };
     explicit ClientActions(const Desk& desk);
 

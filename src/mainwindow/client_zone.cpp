@@ -1,6 +1,7 @@
 #include "mainwindow/client_zone.h"
 
 #include "controls/named.h"
+#include "records/client_database.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
@@ -63,7 +64,9 @@ QWidget* ClientZone::buildSide() {
         auto* button =
             named(new QPushButton(QString::fromUtf16(row.caption)), row.name, QString::fromUtf16(row.tooltip));
         if (row.needsClient) clientButtons_ << button;
-        connect(button, &QPushButton::clicked, this, row.press);
+        connect(button, &QPushButton::clicked, this, [this, &row] {
+            if (!row.needsClient || checkFile()) (this->*row.press)();
+        });
         grid->addWidget(button, row.row, row.column, 1, row.columns);
     }
     enableClientButtons(false);
@@ -75,7 +78,7 @@ QWidget* ClientZone::buildSide() {
 
 void ClientZone::Beolvas() {
     const int scrolledTo = view_->verticalScrollBar()->value();
-    model_.Beolvas(folder_);
+    fill([this] { model_.Beolvas(folder_); });
     view_->verticalScrollBar()->setValue(scrolledTo);
 }
 
@@ -85,10 +88,32 @@ void ClientZone::refresh(int inHand) {
     view_->selectRows(model_.rowsOf(selected.empty() ? std::vector{inHand} : selected), model_.rowOf(inHand));
 }
 
-void ClientZone::cmdBeolvas_Click() { model_.cmdBeolvas_Click(folder_); }
+void ClientZone::cmdBeolvas_Click() {
+    fill([this] { model_.cmdBeolvas_Click(folder_); });
+}
+
+// The stamp first: what is written while the file is read counts as a change.
+template<class Fill>
+void ClientZone::fill(Fill fill) {
+    (void)clientCount(folder_); // a missing file comes into being
+    stamp_ = stampNow();
+    fill();
+}
+
+std::optional<FileStamp> ClientZone::stampNow() const {
+    return fileStamp(folder_.file(QString::fromLatin1(ClientRec::fileName)));
+}
+
+bool ClientZone::checkFile() {
+    if (stampNow() == stamp_) return true;
+    Q_EMIT fileMoved();
+    Q_EMIT said(
+        QStringLiteral("Az adatbázist közben egy másik program megváltoztatta, a lista frissült. Nem történt semmi."));
+    return false;
+}
 
 void ClientZone::search(const QString& text, int keep) {
-    model_.search(folder_, text);
+    fill([&] { model_.search(folder_, text); });
     select(keep);
 }
 

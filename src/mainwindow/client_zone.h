@@ -3,6 +3,7 @@
 #include "mainwindow/client_list_model.h"
 #include "mainwindow/client_list_view.h"
 #include "printing/print_desk.h"
+#include "records/file_stamp.h"
 
 #include <QWidget>
 
@@ -25,6 +26,9 @@ public:
     void cmdBeolvas_Click();
     // Narrows the list to the names that contain `text`; `keep` is then selected again if it is still there.
     void search(const QString& text, int keep);
+    // Whether the file is still the one that the list shows. Its numbers may name others if another program has changed
+    // it: then fileMoved() tells so, and whoever asked must do nothing.
+    bool checkFile();
     // The focus goes into the list, and its first client is picked.
     void enterList() { view_->enter(); }
 
@@ -50,6 +54,7 @@ Q_SIGNALS:
     void modifyPressed();
     void deletePressed();
     void amountsPressed();
+    void fileMoved();
     // The list was filled anew from a database of so many clients.
     void filled(qint64 clients);
     // For the status line.
@@ -57,11 +62,15 @@ Q_SIGNALS:
 
 private:
     QWidget* buildSide();
+    template<class Fill>
+    void fill(Fill fill);
+    std::optional<FileStamp> stampNow() const;
     void select(int recordNumber);
     void sortBy(int column);
     void tellFilled();
 
     const ProgramFolder& folder_;
+    std::optional<FileStamp> stamp_; // of the file when it was read
     ClientListModel model_;
     ClientListView* view_;
     QCheckBox* order_;

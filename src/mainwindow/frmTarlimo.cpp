@@ -6,14 +6,12 @@
 #include "mainwindow/envelope_label_rules.h"
 #include "mainwindow/label_cells.h"
 #include "mainwindow/main_menu.h"
-#include "mainwindow/pink_check_rules.h"
 #include "mainwindow/posting_list_actions.h"
 #include "mainwindow/print_panel.h"
 #include "mainwindow/status_line.h"
 #include "mainwindow/tab_strip.h"
 #include "mainwindow/window_arrangement.h"
 #include "mainwindow/window_state.h"
-#include "mainwindow/yellow_check_rules.h"
 #include "prompts/titles.h"
 #include "settings/setup/setup_dialog.h"
 
@@ -37,7 +35,7 @@ frmTarlimo::frmTarlimo(const ProgramFolder& folder, const WindowServices& servic
     , line_(new StatusLine)
     , work_(*this, *line_)
     , database_(folder, services_.prompts, work_)
-    , entry_({folder_, services_.prompts, tabs_, selected_, *this, *pane_})
+    , entry_({folder_, services_.prompts, tabs_, selected_, *this, *pane_, *clients_})
     , printing_({folder_, services_, device_, tabs_, selected_, *clients_, *panel_, *line_, work_})
     , watching_({*this, folder_, services_.prompts, printing_, *line_, work_}) {
     setObjectName(u"frmTarlimo"_s);
@@ -67,13 +65,17 @@ void frmTarlimo::connectParts() {
     connect(clients_, &ClientZone::addPressed, &entry_, &ClientActions::cmdRogzit_Click);
     connect(clients_, &ClientZone::modifyPressed, &entry_, &ClientActions::cmdModosit_Click);
     connect(clients_, &ClientZone::amountsPressed, &entry_, &ClientActions::cmdOsszegek_Click);
+    connect(clients_, &ClientZone::fileMoved, this, [this] { clientsChanged({ClientsChanged::replaced}); });
     connect(clients_, &ClientZone::said, line_, &StatusLine::say);
     connect(clients_, &ClientZone::filled, line_, &StatusLine::showClientCount);
     connect(&database_, &DatabaseActions::changed, this, &frmTarlimo::clientsChanged);
     connect(&database_, &DatabaseActions::said, line_, &StatusLine::say);
     connect(&entry_, &ClientActions::changed, this, &frmTarlimo::clientsChanged);
     connect(&entry_, &ClientActions::said, line_, &StatusLine::say);
-    connect(&entry_, &ClientActions::amountsRead, SSTab1_, &TabStrip::showValues);
+    connect(&entry_, &ClientActions::amountsRead, this, [this] {
+        clients_->refresh(selected_.rekordszam);
+        SSTab1_->showValues();
+    });
     connect(&entry_, &ClientActions::closed, this, &frmTarlimo::activate);
     connect(&database_, &DatabaseActions::saidOfFile, line_, &StatusLine::sayWithLink);
     connect(&watching_, &WatchActions::changed, this, &frmTarlimo::clientsChanged);
@@ -128,11 +130,9 @@ void frmTarlimo::load() {
     showSheet(tabs_.label, readRecord<CimkeSetup>(folder_));
     panel_->offerPrinters(device_.Printers(), services_.printing.defaultPrinter());
     restoreControls();
-    restoreBold(tabs_.envelope, readRecord<boritek>(folder_));
     clients_->Beolvas();
     SSTab1_->offerFonts(services_.printing.fonts());
-    restoreLabelFonts(tabs_.label, readRecord<Betutip>(folder_), readRecord<Betumeret>(folder_));
-    restorePicture(tabs_.envelope, readRecord<Kepment>(folder_));
+    restoreSheets(tabs_, folder_);
     SSTab1_->showValues();
     restoreArrangement(folder_, *this, *splitter_, *clients_);
 }
@@ -140,9 +140,7 @@ void frmTarlimo::load() {
 void frmTarlimo::restoreControls() {
     const auto set = readRecord<Set>(folder_); // a copy: the handlers below write the file
     panel_->showPrinter(set.lbPrintNo);
-    restoreTabs(tabs_, set);
-    if (set.chkBefAzonMasolasa) chkBefAzonMasolasa_Click(tabs_.yellowCheck);
-    if (set.opAllando[0] || set.opAllando[1]) opAllando_Click(tabs_.pinkCheck, readRecord<SetRcsekk>(folder_));
+    restoreTabs(tabs_, set, folder_);
     clients_->setAscending(set.chkListaSorren != 0);
     panel_->selectDevice(set.opPrinter_1);
     SSTab1_->restore(set.SSTab1Tab);
@@ -156,6 +154,7 @@ void frmTarlimo::activate() {
 void frmTarlimo::rowClicked(int row) {
     line_->say({}); // what the last job came to isn't about this client
     const int number = clients_->recordNumber(row);
+    if (!clients_->checkFile()) return;
     if (number > maxClientNumber)
         return services_.prompts.tell(
             {Icon::information, titles::attention, u"A 32767. rekord utáni ügyfelek innen nem választhatók ki!"_s});

@@ -32,6 +32,7 @@ void PrintActions::mnuCimzettekNyomtatasa_Click() {
 }
 
 void PrintActions::carryOut(const Print& print) {
+    if (!desk_.clients.checkFile()) return;
     const QPointer<QWidget> focus = QApplication::focusWidget();
     desk_.panel.setButtonsEnabled(false);
     const PrintOutcome outcome = run(print, true);

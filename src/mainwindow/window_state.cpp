@@ -1,5 +1,9 @@
 #include "mainwindow/window_state.h"
 
+#include "mainwindow/pink_check_rules.h"
+#include "mainwindow/yellow_check_rules.h"
+#include "records/record_file.h"
+
 namespace {
 
 struct BoldRow {
@@ -21,7 +25,7 @@ EnvelopeType envelopeType(int stored) {
 
 } // namespace
 
-void restoreTabs(FormTabs& tabs, const Set& set) {
+void restoreTabs(FormTabs& tabs, const Set& set, const ProgramFolder& folder) {
     tabs.returnReceipt.txtTertiPosta = set.txtTertiPosta.trimmed();
     for (std::size_t i = 0; i < 3; ++i)
         tabs.documentReceipt.chkVisszaCimPrint[i] = set.chkVisszaCimPrint[i] != 0;
@@ -31,20 +35,32 @@ void restoreTabs(FormTabs& tabs, const Set& set) {
     // A new record names neither; the addressee is then the fixed one.
     tabs.pinkCheck.opAllando = set.opAllando[1] && !set.opAllando[0] ? FixedParty::sender : FixedParty::addressee;
     tabs.yellowCheck.chkBefAzonMasolasa = set.chkBefAzonMasolasa;
+    if (set.chkBefAzonMasolasa) chkBefAzonMasolasa_Click(tabs.yellowCheck);
+    if (set.opAllando[0] || set.opAllando[1]) opAllando_Click(tabs.pinkCheck, readRecord<SetRcsekk>(folder));
 }
+
+namespace {
 
 void restoreBold(EnvelopeTab& tab, const boritek& set) {
     for (const BoldRow& row : boldRows)
         tab.*row.shown = set.*row.stored;
 }
 
-void restoreLabelFonts(LabelTab& tab, const Betutip& fonts, const Betumeret& sizes) {
+void restoreFonts(LabelTab& tab, const Betutip& fonts, const Betumeret& sizes) {
     for (std::size_t line = 0; line < 5; ++line) {
         tab.ComboBetuTipus1[line] = fonts.ComboBetuTipus1[line].trimmed();
         const int size = sizes.ComboBetuSize[line];
         tab.ComboBetuSize[line] =
             size == 0 ? QString() : QString::number(size); // never stored: the box says the default
     }
+}
+
+} // namespace
+
+void restoreSheets(FormTabs& tabs, const ProgramFolder& folder) {
+    restoreBold(tabs.envelope, readRecord<boritek>(folder));
+    restoreFonts(tabs.label, readRecord<Betutip>(folder), readRecord<Betumeret>(folder));
+    restorePicture(tabs.envelope, readRecord<Kepment>(folder));
 }
 
 void storeTabs(const FormTabs& tabs, Set& set) {

@@ -7,12 +7,10 @@
 // What the window remembers from one run to the next, between the records and the values of the tabs. The controls that
 // aren't on a tab (printer, list order, tab number) are the window's own.
 
-// Fields of Set.dat that a start brings back.
-void restoreTabs(FormTabs& tabs, const Set& set);
-// Bold flags of the envelope.
-void restoreBold(EnvelopeTab& tab, const boritek& set);
-// Fonts and sizes of the label lines.
-void restoreLabelFonts(LabelTab& tab, const Betutip& fonts, const Betumeret& sizes);
+// Fields of Set.dat that a start brings back, with what their controls set off.
+void restoreTabs(FormTabs& tabs, const Set& set, const ProgramFolder& folder);
+// The records behind the envelope and the labels: bold flags, picture, fonts and sizes of the lines.
+void restoreSheets(FormTabs& tabs, const ProgramFolder& folder);
 
 // The other way, at exit; all other fields are left alone.
 void storeTabs(const FormTabs& tabs, Set& set);

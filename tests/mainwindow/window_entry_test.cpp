@@ -119,6 +119,7 @@ TEST_F(EntryTest, ModifiesTheClientWhoseTextsItShows) {
     client.twin.IratFajtaja.set(u"végzés"_s);
     client.twin.SajatJelzes.set(u"jelzés"_s);
     ASSERT_TRUE(modifyClient(files, 2, client));
+    press("cmdBeolvas");
     clickRow(1);
     type("txNev", u"Nagy Béláné"_s);
     press("cmdModosit");
@@ -365,4 +366,26 @@ TEST_F(AmountsTest, RefusesAmountsThatWouldNeverShow) {
         EXPECT_EQ(prompts.told.back().text, u" Nincs kijelölve ügyfél a listáról..."_s);
     });
     EXPECT_EQ(clientCount(files), 0);
+}
+
+// Another copy of the program on the same folder: the numbers of the list may name others now.
+TEST_F(EntryTest, DoesNothingByTheNumbersOfAFileThatHasMoved) {
+    openSome();
+    for (const char* button : {"cmdDel", "cmdModosit", "cmdOsszegek", "cmdPrint", "ListView1", "cmdRogzites"}) {
+        SCOPED_TRACE(button);
+        clickRow(1);
+        if (button == std::string("cmdRogzites")) press("cmdModosit");
+        files.store(clientNamed(u"Másé"_s), clientCount(files) + 1);
+        const QByteArray before = files.bytes(u"nevek1.dat"_s);
+        if (button == std::string("cmdRogzites"))
+            save({Answer::yes});
+        else
+            button == std::string("ListView1") ? clickRow(0) : press(button);
+        EXPECT_EQ(status(),
+                  "Az adatbázist közben egy másik program megváltoztatta, a lista frissült. Nem történt semmi.");
+        EXPECT_EQ(files.bytes(u"nevek1.dat"_s), before);
+        EXPECT_EQ(window->rekordszam(), 0);
+        EXPECT_EQ(list().model()->rowCount(), clientCount(files));
+    }
+    EXPECT_TRUE(service.delivered.empty());
 }

@@ -55,6 +55,7 @@ TEST_F(WindowLabels, AClickGivesThePlaceTheClientOfTheList) {
     EXPECT_EQ(tip("chkCimke1_1"), "Nagy & Fiai - raktár - Budapest - Fő utca 1. - 1024  ");
     EXPECT_EQ(tip("chkCimke1_4"), "");
     files.store(clientNamed(QStringLiteral("Új Név")), 1);
+    press("cmdBeolvas");
     EXPECT_EQ(tip("chkCimke1_2").substr(0, 8), "Új Név");
     EXPECT_EQ(printed(" 5.00 12 "), "5.00 5.00 Nagy & Fiai|110.00 5.00 Új Név");
     EXPECT_TRUE(ticked("chkCimke1_1")); // for the next sheet

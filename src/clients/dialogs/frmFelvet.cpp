@@ -50,10 +50,11 @@ std::span<const frmFelvet::Box> frmFelvet::boxes() {
     return boxes;
 }
 
-frmFelvet::frmFelvet(const ProgramFolder& folder, Prompts& prompts, QWidget* parent)
+frmFelvet::frmFelvet(const ProgramFolder& folder, Prompts& prompts, std::function<bool()> numbersStand, QWidget* parent)
     : Dialog("frmFelvet", u"Felvétel"_s, parent)
     , folder_(folder)
     , prompts_(prompts)
+    , numbersStand_(std::move(numbersStand))
     , frame_(new QGroupBox(u"Ügyfél adatok"_s))
     , foreign_(named(new QCheckBox(u"Külföldi címzés"_s), "chkKulfCim"))
     , again_(named(new QCheckBox, "chkTobbFelvetel"))
@@ -287,6 +288,7 @@ void frmFelvet::add() {
 void frmFelvet::modify() {
     if (number_ < 1 || number_ > clientCount(folder_)) return prompts_.tell(messages::nobodyPicked());
     if (!confirms(u"Feladó módosítása"_s, u"módosítása?"_s)) return reject();
+    if (!numbersStand_()) return;
     std::optional<Client> client = readClient(folder_, number_);
     if (!client) return prompts_.tell(messages::nobodyPicked());
     put(entry(), *client);

@@ -7,6 +7,7 @@
 
 #include <QElapsedTimer>
 
+#include <functional>
 #include <span>
 
 class QCheckBox;
@@ -22,7 +23,8 @@ class QPushButton;
 class frmFelvet : public Dialog {
     Q_OBJECT
 public:
-    frmFelvet(const ProgramFolder& folder, Prompts& prompts, QWidget* parent);
+    // `numbersStand` answers whether record numbers still name whom they named, and tells the clerk if not.
+    frmFelvet(const ProgramFolder& folder, Prompts& prompts, std::function<bool()> numbersStand, QWidget* parent);
 
     // Opens with empty boxes. While a new client is half typed, it only comes to the front.
     void openToAdd();
@@ -78,6 +80,7 @@ private:
 
     const ProgramFolder& folder_;
     Prompts& prompts_;
+    std::function<bool()> numbersStand_;
     FelvetelMod mode_ = FelvetelMod::add;
     int number_ = 0;         // of the client whose texts the boxes hold
     bool isTouched_ = false; // the clerk has put something in since the boxes were filled
