@@ -10,6 +10,7 @@
 #include "prompts/titles.h"
 
 #include <QApplication>
+#include <QFileInfo>
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QTranslator>
@@ -49,6 +50,12 @@ int main(int argc, char** argv) {
     QApplication::setWindowIcon(QIcon(folder.file(QStringLiteral("tarlimo.png"))));
 
     QtPrompts prompts(folder.path());
+    if (!QFileInfo(folder.path()).isDir()) {
+        prompts.tell({Icon::critical, titles::error,
+                      QStringLiteral("A program mappájának neve nem kezelhető,\n"
+                                     "helyezd át a programot egy másik mappába!")});
+        return 1;
+    }
     const ProgramLock lock(folder);
     if (!lock.holder().isEmpty() && !mayRunBeside(lock.holder(), prompts)) return 0;
 

@@ -1,6 +1,7 @@
 #include "exchange/watched_folder.h"
 
 #include "exchange/import_notes.h"
+#include "exchange/line_count.h"
 #include "records/client_database.h"
 #include "records/file_replacement.h"
 
@@ -90,6 +91,8 @@ private:
     TickOutcome take(const FileVersion& file) {
         if (progress_) progress_(0, file.size);
         TickOutcome outcome = about(file);
+        outcome.isTooLong = file.size > mostWatchedLines && lineCount(file.path) > mostWatchedLines;
+        if (outcome.isTooLong) return passOver(file, std::move(outcome));
         bool isText = true;
         ImportWay way{watch_.mode, watchColumns, EmptyLine::end};
         way.confirm = [&](const ImportOutcome& read) -> std::optional<QByteArray> {
@@ -100,6 +103,13 @@ private:
         };
         outcome.import = importClients(file.path, folder_, way, progress_);
         return finish(file, isText, std::move(outcome));
+    }
+
+    TickOutcome passOver(const FileVersion& file, TickOutcome outcome) {
+        notes_.add(file, ImportNotes::Kind::passedOver);
+        outcome.isPassedOver = storeNotes();
+        outcome.result = Result::refused;
+        return outcome;
     }
 
     TickOutcome finish(const FileVersion& file, bool isText, TickOutcome outcome) {
@@ -114,9 +124,7 @@ private:
             if (isText) return {}; // somebody is still writing it
             [[fallthrough]];
         case ImportOutcome::Result::empty:
-            notes_.add(file, ImportNotes::Kind::passedOver);
-            outcome.isPassedOver = storeNotes();
-            break;
+            return passOver(file, std::move(outcome));
         case ImportOutcome::Result::unreadable:
             if (!QFile::exists(file.path)) return {}; // taken away meanwhile
             break;
@@ -145,8 +153,10 @@ QString importedText(const TickOutcome& outcome) {
     return text;
 }
 
-QString refusedText(ImportOutcome::Result why) {
-    switch (why) {
+QString refusedText(const TickOutcome& outcome) {
+    if (outcome.isTooLong)
+        return u"A(z) ''%1'' túl hosszú (legfeljebb 300000 sor lehet), az adatbázis nem változott."_s;
+    switch (outcome.import.result) {
     case ImportOutcome::Result::empty:
         return u"A(z) ''%1'' fájlban nincs ügyfél, az adatbázis nem változott."_s;
     case ImportOutcome::Result::calledOff:
@@ -189,7 +199,7 @@ QString tickText(const TickOutcome& outcome) {
     case Result::imported:
         return importedText(outcome);
     case Result::refused:
-        return refusedText(outcome.import.result).arg(outcome.file);
+        return refusedText(outcome).arg(outcome.file);
     case Result::idle:
         return outcome.isStuck ? u"A(z) ''%1'' már be van olvasva, de nem törölhető!"_s.arg(outcome.file) : QString();
     }

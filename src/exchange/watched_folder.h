@@ -33,6 +33,7 @@ struct TickOutcome {
     ImportMode mode = ImportMode::append;
     bool prints = false;       // checks are to be printed, if every client has an amount
     bool isPassedOver = false; // the file stays, and isn't taken again before somebody changes it
+    bool isTooLong = false;    // more lines than are taken with nobody to ask
     bool isStuck = false;      // it was imported, but can't be deleted
 
     bool timerGoesOn() const { return result != Result::off; }

@@ -1,5 +1,6 @@
 #include "mainwindow/database_actions.h"
 
+#include "exchange/line_count.h"
 #include "exchange/watched_folder.h"
 #include "mainwindow/guarded.h"
 #include "mainwindow/main_menu.h"
@@ -38,7 +39,12 @@ DatabaseActions::DatabaseActions(const ProgramFolder& folder, Prompts& prompts, 
 
 void DatabaseActions::connectMenu(const QMenuBar& bar) {
     const auto on = [&](const char* name, void (DatabaseActions::*action)()) {
-        onMenu(bar, name, this, [this, action] { guarded(prompts_, [&] { (this->*action)(); }); });
+        onMenu(bar, name, this, [this, action] {
+            guarded(prompts_, [&] {
+                Q_EMIT said({}); // what came of the last action
+                (this->*action)();
+            });
+        });
     };
     on("mnuAdatCsvbol", &DatabaseActions::mnuAdatCsvbol_Click);
     on("mnuKonertal", &DatabaseActions::mnuKonertal_Click);
@@ -91,7 +97,7 @@ void DatabaseActions::mnuAdatCsvbol_Click() {
         prompts_.openFile(mode == ImportMode::overwrite ? u"Importálás - a meglévő adatbázis FELÜLÍRÁSÁVAL"_s
                                                         : u"Importálás - hozzáfűzés"_s,
                           filter);
-    if (path.isEmpty() || path == filter) return;
+    if (path.isEmpty() || path == filter || !mayImport(path)) return;
     const ImportOutcome outcome = import(path, mode);
     const auto refuse = [this](const QString& why) {
         prompts_.tell({Icon::critical, titles::error, why + u", az adatbázis nem változott."_s});
@@ -110,6 +116,15 @@ void DatabaseActions::mnuAdatCsvbol_Click() {
     case ImportOutcome::Result::notWritten:
         return prompts_.tell(messages::notWritten());
     }
+}
+
+bool DatabaseActions::mayImport(const QString& path) {
+    const qint64 lines = [&path] {
+        const WaitCursor wait;
+        return lineCount(path);
+    }();
+    if (lines < manyLines) return true;
+    return confirms(prompts_, titles::warning, u"A fájl %1 sort tartalmaz.\n\nMehet az importálás?"_s.arg(lines));
 }
 
 ImportOutcome DatabaseActions::import(const QString& path, ImportMode mode) {

@@ -38,6 +38,7 @@ Q_SIGNALS:
     void saidOfFile(const QString& text, const QString& file);
 
 private:
+    bool mayImport(const QString& path);
     ImportOutcome import(const QString& path, ImportMode mode);
     void tellImported(const ImportOutcome& outcome);
     ProgressFn shownProgress(const QString& work);

@@ -1,7 +1,7 @@
 #include "mainwindow/envelope_label_rules.h"
 
 #include "mainwindow/label_cells.h"
-#include "prompts/titles.h"
+#include "prompts/messages.h"
 #include "records/number_text.h"
 #include "records/record_file.h"
 
@@ -121,8 +121,10 @@ std::optional<Message> cmdCimkeMeretRogzites_Click(LabelTab& tab, CimkeSetup& se
 
 void cmdCimkeMeretRogzites_Click(LabelTab& tab, const ProgramFolder& folder, Prompts& prompts) {
     std::optional<Message> refused;
-    updateRecord<CimkeSetup>(folder, [&](CimkeSetup& set) { refused = cmdCimkeMeretRogzites_Click(tab, set); });
-    if (refused) prompts.tell(*refused);
+    const bool stored =
+        updateRecord<CimkeSetup>(folder, [&](CimkeSetup& set) { refused = cmdCimkeMeretRogzites_Click(tab, set); });
+    if (refused) return prompts.tell(*refused);
+    if (!stored) prompts.tell(messages::settingNotWritten());
 }
 
 void cmbBetutipusok_Click(LabelTab& tab, const ProgramFolder& folder, Prompts& prompts) {
@@ -134,7 +136,7 @@ void cmbBetutipusok_Click(LabelTab& tab, const ProgramFolder& folder, Prompts& p
         for (std::size_t line = 0; line < 5; ++line)
             set.ComboBetuSize[line] = leadingI16(tab.ComboBetuSize[line]);
     });
-    if (names && sizes)
-        prompts.tell(
-            {Icon::none, QStringLiteral("! Rendben !"), QStringLiteral(" \nA betűtípusok mentése megtörtént...\n ")});
+    if (!names || !sizes) return prompts.tell(messages::settingNotWritten());
+    prompts.tell(
+        {Icon::none, QStringLiteral("! Rendben !"), QStringLiteral(" \nA betűtípusok mentése megtörtént...\n ")});
 }

@@ -48,5 +48,5 @@ const QString* wrongNumber(const LabelTab& tab);
 // The same on the stored sheet.
 void cmdCimkeMeretRogzites_Click(LabelTab& tab, const ProgramFolder& folder, Prompts& prompts);
 
-// Stores fonts and sizes of the five lines, and says so; silent where the files can't be written.
+// Stores fonts and sizes of the five lines, and says what came of it.
 void cmbBetutipusok_Click(LabelTab& tab, const ProgramFolder& folder, Prompts& prompts);

@@ -12,7 +12,7 @@
 #include "mainwindow/tab_strip.h"
 #include "mainwindow/window_arrangement.h"
 #include "mainwindow/window_state.h"
-#include "prompts/titles.h"
+#include "prompts/messages.h"
 #include "settings/setup/setup_dialog.h"
 
 #include <QCloseEvent>
@@ -29,7 +29,7 @@ frmTarlimo::frmTarlimo(const ProgramFolder& folder, const WindowServices& servic
     , device_(services.printing)
     , SSTab1_(new TabStrip(tabs_, {folder_, device_, services_.prompts, selected_}))
     , clients_(new ClientZone(folder))
-    , panel_(new PrintPanel(folder))
+    , panel_(new PrintPanel(folder, services_.prompts))
     , pane_(new QStackedWidget)
     , splitter_(arrange({SSTab1_, panel_, clients_, pane_}))
     , line_(new StatusLine)
@@ -209,19 +209,13 @@ void frmTarlimo::askAndClose() {
 }
 
 void frmTarlimo::closeEvent(QCloseEvent* event) {
-    storeState();
+    if (!storeState()) services_.prompts.tell(messages::settingNotWritten());
     QMainWindow::closeEvent(event);
     // Not left to the last window: a dialog that isn't modal must not keep the process alive.
     qApp->quit();
 }
 
-void frmTarlimo::storeState() {
-    updateRecord<Set>(folder_, [this](Set& set) {
-        storeTabs(tabs_, set);
-        set.chkListaSorren = clients_->isAscending() ? 1 : 0;
-        set.OpOrientacioFekvo = panel_->feed() == Feed::sideways ? 1 : 0;
-        set.opPrinter_1 = panel_->isSystemDefault();
-    });
-    updateRecord<boritek>(folder_, [this](boritek& set) { storeBold(tabs_.envelope, set); });
+bool frmTarlimo::storeState() {
     storeArrangement(folder_, *this, *splitter_, *clients_);
+    return storeWindow(folder_, tabs_, {clients_->isAscending(), panel_->feed(), panel_->isSystemDefault()});
 }

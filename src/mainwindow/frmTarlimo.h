@@ -22,8 +22,8 @@ class frmTarlimo : public QMainWindow {
 public:
     frmTarlimo(const ProgramFolder& folder, const WindowServices& services);
 
-    // Stores what the window remembers: at the closing and at the end of the session.
-    void storeState();
+    // Stores what the window remembers: at the closing and at the end of the session. False: not all of it was.
+    bool storeState();
     // Record number of the client last clicked, 0 for none.
     int rekordszam() const { return selected_.rekordszam; }
     const FormTabs& tabs() const { return tabs_; }

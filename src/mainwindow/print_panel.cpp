@@ -3,6 +3,7 @@
 #include "controls/entry_combo.h"
 #include "controls/named.h"
 #include "mainwindow/print_button.h"
+#include "prompts/messages.h"
 #include "records/record_file.h"
 #include "settings/general_settings.h"
 
@@ -76,9 +77,10 @@ private:
     QImage picture_;
 };
 
-PrintPanel::PrintPanel(const ProgramFolder& folder, QWidget* parent)
+PrintPanel::PrintPanel(const ProgramFolder& folder, Prompts& prompts, QWidget* parent)
     : QGroupBox(u"Nyomtatás"_s, parent)
     , folder_(folder)
+    , prompts_(prompts)
     , print_(named(new PrintButton(u"&Nyomtatás"_s), "cmdPrint"))
     , batch_(named(new PrintButton(u"&Csoportos Nyomtatás"_s), "cmdCsPrint"))
     , sample_(named(new SamplePicture, "Picture2"))
@@ -142,7 +144,7 @@ QWidget* PrintPanel::buildDeviceChoice() {
     // `activated`, not the index' change: filling the box must not overwrite the stored number.
     connect(printers_, &QComboBox::activated, this, [this](int index) {
         printNo_->setText(QString::number(index));
-        updateRecord<Set>(folder_, [index](Set& set) { set.lbPrintNo = static_cast<std::int16_t>(index); });
+        store([index](Set& set) { set.lbPrintNo = static_cast<std::int16_t>(index); });
         showDeviceName();
     });
     connect(systemDevice_, &QRadioButton::toggled, this, &PrintPanel::storeDevice);
@@ -178,8 +180,14 @@ void PrintPanel::storeDevice() {
     const bool systemDefault = isSystemDefault();
     printers_->setEnabled(!systemDefault);
     showDeviceName();
-    updateRecord<Set>(folder_, [systemDefault](Set& set) { set.opPrinter_1 = systemDefault; });
+    store([systemDefault](Set& set) { set.opPrinter_1 = systemDefault; });
     Q_EMIT deviceSelected();
+}
+
+// The print routines take the device from the record: one that isn't stored doesn't print.
+template<class Change>
+void PrintPanel::store(Change change) {
+    if (!updateRecord<Set>(folder_, change)) prompts_.tell(messages::settingNotWritten());
 }
 
 Feed PrintPanel::feed() const { return upright_->isChecked() ? Feed::upright : Feed::sideways; }

@@ -16,7 +16,7 @@ class SamplePicture;
 class PrintPanel : public QGroupBox {
     Q_OBJECT
 public:
-    PrintPanel(const ProgramFolder& folder, QWidget* parent = nullptr);
+    PrintPanel(const ProgramFolder& folder, Prompts& prompts, QWidget* parent = nullptr);
 
     // The device list, and which of it is the system's default.
     void offerPrinters(const QStringList& printers, int systemDefault);
@@ -45,9 +45,12 @@ private:
     QWidget* buildDeviceChoice();
     void showSample();
     void storeDevice();
+    template<class Change>
+    void store(Change change);
     void showDeviceName();
 
     const ProgramFolder& folder_;
+    Prompts& prompts_;
     PrintButton* print_;
     PrintButton* batch_;
     QRadioButton* upright_;

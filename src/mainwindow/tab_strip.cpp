@@ -54,7 +54,10 @@ void TabStrip::restore(int stored) {
 }
 
 void TabStrip::store() {
-    updateRecord<Set>(context_.folder, [this](Set& set) { set.SSTab1Tab = static_cast<std::int16_t>(currentIndex()); });
+    const auto number = static_cast<std::int16_t>(currentIndex());
+    // The next start would show another tab: nothing to stop a clerk for.
+    (void)updateRecord<Set>(
+        context_.folder, [number](Set& set) { set.SSTab1Tab = number; }, Flush::no);
     reload();
 }
 

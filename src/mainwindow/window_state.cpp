@@ -1,5 +1,6 @@
 #include "mainwindow/window_state.h"
 
+#include "mainwindow/guarded.h"
 #include "mainwindow/pink_check_rules.h"
 #include "mainwindow/yellow_check_rules.h"
 #include "records/record_file.h"
@@ -63,6 +64,8 @@ void restoreSheets(FormTabs& tabs, const ProgramFolder& folder) {
     restorePicture(tabs.envelope, readRecord<Kepment>(folder));
 }
 
+namespace {
+
 void storeTabs(const FormTabs& tabs, Set& set) {
     if (set.chkNyomtatandoKilepes) {
         set.txtTertiPosta.set(tabs.returnReceipt.txtTertiPosta);
@@ -81,4 +84,21 @@ void storeTabs(const FormTabs& tabs, Set& set) {
 void storeBold(const EnvelopeTab& tab, boritek& set) {
     for (const BoldRow& row : boldRows)
         set.*row.stored = tab.*row.shown;
+}
+
+} // namespace
+
+bool storeWindow(const ProgramFolder& folder, const FormTabs& tabs, const WindowChoices& choices) {
+    const auto change = [&](Set& set) {
+        storeTabs(tabs, set);
+        set.chkListaSorren = choices.ascending ? 1 : 0;
+        set.OpOrientacioFekvo = choices.feed == Feed::sideways ? 1 : 0;
+        set.opPrinter_1 = choices.systemDefault;
+    };
+    bool stored = false;
+    const QString unreadable = troubleOf([&] {
+        stored = updateRecord<Set>(folder, change);
+        stored = updateRecord<boritek>(folder, [&](boritek& set) { storeBold(tabs.envelope, set); }) && stored;
+    });
+    return stored && unreadable.isEmpty();
 }

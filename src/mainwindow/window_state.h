@@ -1,6 +1,7 @@
 #pragma once
 
 #include "mainwindow/client_pour.h"
+#include "printing/print_desk.h"
 #include "settings/envelope_label_settings.h"
 #include "settings/general_settings.h"
 
@@ -12,6 +13,11 @@ void restoreTabs(FormTabs& tabs, const Set& set, const ProgramFolder& folder);
 // The records behind the envelope and the labels: bold flags, picture, fonts and sizes of the lines.
 void restoreSheets(FormTabs& tabs, const ProgramFolder& folder);
 
-// The other way, at exit; all other fields are left alone.
-void storeTabs(const FormTabs& tabs, Set& set);
-void storeBold(const EnvelopeTab& tab, boritek& set);
+// What the window remembers beside the tabs.
+struct WindowChoices {
+    bool ascending;
+    Feed feed;
+    bool systemDefault;
+};
+// The other way, at exit; all other fields are left alone. False: not all of it was stored.
+bool storeWindow(const ProgramFolder& folder, const FormTabs& tabs, const WindowChoices& choices);

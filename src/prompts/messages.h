@@ -14,4 +14,9 @@ inline Message notWritten() {
     return {Icon::critical, titles::error, QStringLiteral("Az adatbázis nem írható, a korábbi állapot maradt meg.")};
 }
 
+inline Message settingNotWritten() {
+    return {Icon::critical, titles::error,
+            QStringLiteral("A beállítás nem menthető, a program mappája vagy a fájl nem írható!")};
+}
+
 } // namespace messages

@@ -144,6 +144,7 @@ TEST_F(WatchedFolder, WhatBecomesOfTheFile) {
         {"blanks are a line", "A\n \nC\n", "fájlból 3 ügyfél beolvasva.", "|A||C", false},
         {"empty", "", "fájlban nincs ügyfél, az adatbázis nem változott.", "", true},
         {"empty line first", "\r\nA\r\n", "fájlban nincs ügyfél, az adatbázis nem változott.", "", true},
+        {"too long", QByteArray("A\n").repeated(300001), "túl hosszú (legfeljebb 300000 sor lehet)", "", true},
         {"no text", QByteArray("PK\x03\x04\0\0;A\n", 9), "nem szövegfájl, az adatbázis nem változott.", "", true},
     };
     for (const ImportMode mode : {ImportMode::append, ImportMode::overwrite}) {

@@ -88,6 +88,15 @@ TEST_F(DatabaseWindow, WipeEmptiesFilesAndList) {
     expectNobodyHeld();
 }
 
+TEST_F(DatabaseWindow, ALongFileIsAskedFor) {
+    const QByteArray before = files.bytes(QStringLiteral("nevek1.dat"));
+    prompts.answers = {Answer::no};
+    importFile(csv(QByteArray("A\r\n").repeated(100000)));
+    EXPECT_EQ(prompts.asked.back().text, QStringLiteral("A fájl 100000 sort tartalmaz.\n\nMehet az importálás?"));
+    EXPECT_EQ(prompts.presets.back(), Answer::no);
+    EXPECT_EQ(files.bytes(QStringLiteral("nevek1.dat")), before);
+}
+
 TEST_F(DatabaseWindow, ImportAppendsOrOverwritesAsTheTitleSays) {
     importFile(csv("Tóth Éva;;;;;;900"));
     EXPECT_EQ(rows(), "Kiss Anna|[Szűcs Ernő]|Nagy Béla|Tóth Éva"); // the client in hand stays picked
@@ -194,9 +203,10 @@ TEST_F(DatabaseWindow, ConversionTellsItsOutcome) {
         choose("mnuKonertal");
         EXPECT_EQ(told(), attempt.told);
         EXPECT_EQ(rows(), attempt.rows);
+        const bool converted = attempt.answer == Answer::yes && *attempt.told == '\0';
+        EXPECT_EQ(status(), converted ? "1 ügyfél konvertálva." : ""); // no success of an earlier action
     }
     expectNobodyHeld();
-    EXPECT_EQ(status(), "1 ügyfél konvertálva.");
 }
 
 TEST_F(DatabaseWindow, TooLargeADatabaseIsToldLast) {

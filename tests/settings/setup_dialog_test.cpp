@@ -182,16 +182,16 @@ TEST(SetupDialog, TheBackOfThePinkCheckLiesOverTheFrontAndIsStoredInEitherState)
     EXPECT_EQ(readRecord<SetRcsekk>(folder).txRcsekkFeladoHatoldal_x, Cur(82));
 }
 
-TEST(SetupDialog, PrintBoxesShowTheStoredFlagsUnlessNobodyEverChose) {
-    const std::tuple<bool, const char*, const char*> rows[] = {
-        {false, "00000000", "11111101"}, // the state of a new record
-        {false, "10000010", "10000000"},
-        {true, "00000000", "00000000"},
-        {true, "01101011", "01101011"},
+TEST(SetupDialog, PrintBoxesShowTheStoredFlagsUnlessTheRecordIsNew) {
+    const std::tuple<bool, bool, const char*, const char*> rows[] = {
+        {true, false, "00000000", "11111101"},  {false, false, "00000000", "00000000"}, // all ticks taken out
+        {false, false, "10000010", "10000000"}, {false, true, "00000000", "00000000"},
+        {false, true, "01101011", "01101011"},
     };
-    for (const auto& [gate, stored, expected] : rows) {
+    for (const auto& [isNew, gate, stored, expected] : rows) {
         const TestFolder folder;
         auto before = zeroRecord<Set>();
+        if (!isNew) before.ComboBetuTipus1.set(u"");
         before.chkNyomtatandoKilepes = gate;
         for (std::size_t i = 0; i < 8; ++i)
             before.chkNyomtatando[i] = stored[i] == '1';

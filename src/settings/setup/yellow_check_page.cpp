@@ -36,18 +36,14 @@ constexpr BoxRow<Set> letters[] = {
 
 constexpr int keepAtExit = 6; // the one box of the frame that is no item of a check
 
-bool isAnyPrinted(const Set& set) {
-    return std::any_of(set.chkNyomtatando.begin(), set.chkNyomtatando.end(), [](Bool16 flag) { return bool{flag}; });
-}
+// A record that the page never stored: its texts are NULs, where a stored one has blanks at least.
+bool isNew(const Set& set) { return set.ComboBetuTipus1.stored().isEmpty(); }
 
-// What prints, as stored. A record in which nobody ever chose anything shows every item ticked.
+// What prints, as stored. A new record shows every item ticked.
 template<std::size_t item>
 constexpr BoxRow<Set> printed(const char* name, const char16_t* label) {
     return {{name, label, &tickBox, Restore::no},
-            [](const Set& set) {
-                const bool untouched = !set.chkNyomtatandoKilepes && !isAnyPrinted(set);
-                return field_text::showTick(untouched || set.chkNyomtatando[item]);
-            },
+            [](const Set& set) { return field_text::showTick(isNew(set) || set.chkNyomtatando[item]); },
             [](Set& set, QStringView text) { set.chkNyomtatando[item] = field_text::isTicked(text); }};
 }
 
