@@ -18,10 +18,10 @@ using Result = TickOutcome::Result;
 // Plain files by name, in a stable order. The toolkit's own sorting would look at every file of the folder.
 QFileInfoList csvFiles(const QString& folder) {
     QFileInfoList files;
-    QDirIterator file(folder, QDir::Files | QDir::NoSymLinks);
+    QDirIterator file(folder, {u"*.csv"_s}, QDir::Files | QDir::NoSymLinks); // whatever the case
     while (file.hasNext()) {
         file.next();
-        if (file.fileName().endsWith(u".csv", Qt::CaseInsensitive)) files << file.fileInfo();
+        files << file.fileInfo();
     }
     std::sort(files.begin(), files.end(), [](const QFileInfo& a, const QFileInfo& b) {
         const int order = a.fileName().compare(b.fileName(), Qt::CaseInsensitive);
