@@ -42,7 +42,7 @@ QString shownCentimetres(const Cur& size) {
 }
 
 void read(EnvelopePicture& picture) {
-    const FileStamp file = stampOf(picture.kepFajl);
+    const PictureStamp file = stampOf(picture.kepFajl);
     if (file == picture.readFrom) return;
     const PictureFile read = readPicture(picture.kepFajl, mostPrintedPixels);
     picture.picture = read.image;

@@ -12,7 +12,7 @@ enum class EnvelopeType { C6 = 1, C5 = 2, C56 = 3 };
 struct EnvelopePicture {
     EnvelopeType type = EnvelopeType::C6;    // OpB1, OpB2, OpB3
     QString kepFajl;                         // path of the file; empty for none
-    FileStamp readFrom;                      // what `picture` was read from
+    PictureStamp readFrom;                   // what `picture` was read from
     QImage picture;                          // nothing prints while it is null
     QSize pixels;                            // of the file
     QRectF Image3;                           // twips

@@ -26,11 +26,6 @@ QImage onWhite(const QImage& image) {
 
 } // namespace
 
-FileStamp stampOf(const QString& path) {
-    const QFileInfo file(path);
-    return {path, file.lastModified(), file.size()};
-}
-
 PictureFile readPicture(const QString& path, int mostSide) {
     if (!QFileInfo(path).isFile()) return {}; // a pipe would never end
     QImageReader::setAllocationLimit(mostMegabytes);

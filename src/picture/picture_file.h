@@ -1,17 +1,17 @@
 #pragma once
 
-#include <QDateTime>
+#include "records/file_stamp.h"
+
 #include <QImage>
 #include <QString>
 
-// What tells a file from an earlier or another one; of a missing file only the path.
-struct FileStamp {
+// What tells a picture file from an earlier or another one; of a missing file only the path.
+struct PictureStamp {
     QString path;
-    QDateTime changed;
-    qint64 bytes = 0;
-    friend bool operator==(const FileStamp&, const FileStamp&) = default;
+    std::optional<FileStamp> file;
+    friend bool operator==(const PictureStamp&, const PictureStamp&) = default;
 };
-FileStamp stampOf(const QString& path);
+inline PictureStamp stampOf(const QString& path) { return {path, fileStamp(path)}; }
 
 // A picture file as it is shown and printed: on white where it is transparent, which a printer doesn't know, its first
 // image if there are several. A camera's turn isn't looked at.
