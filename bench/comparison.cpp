@@ -49,7 +49,6 @@ struct Named {
 // the order of the runs.
 std::vector<double> measure(const std::string& item, const std::vector<Named>& runs) {
     std::fprintf(stderr, "%s ...\n", item.c_str());
-    benchmark::ClearRegisteredBenchmarks();
     for (const Named& named : runs) {
         const auto body = [run = named.run](benchmark::State& state) {
             for ([[maybe_unused]] auto _ : state)
@@ -62,6 +61,8 @@ std::vector<double> measure(const std::string& item, const std::vector<Named>& r
     }
     Times times;
     benchmark::RunSpecifiedBenchmarks(&times);
+    benchmark::ClearRegisteredBenchmarks(); // the library would keep what they hold, windows too, beyond the end of
+                                            // main
     std::vector<double> medians;
     for (const Named& named : runs)
         medians.push_back(times.medianOf(named.name));

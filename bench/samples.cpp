@@ -1,6 +1,7 @@
 #include "samples.h"
 
 #include "exchange/csv_import.h"
+#include "records/windows1250.h"
 
 #include <QDir>
 #include <QProcess>
@@ -11,6 +12,11 @@
 namespace {
 
 [[noreturn]] void giveUp(const QString& what) { qFatal("%s", qPrintable(what)); }
+
+QString scratchFile(const QString& name) {
+    static const ScratchFolder scratch;
+    return scratch.folder().file(name);
+}
 
 std::unique_ptr<ScratchFolder> filledFolder(int clients) {
     auto made = std::make_unique<ScratchFolder>();
@@ -25,11 +31,20 @@ std::unique_ptr<ScratchFolder> filledFolder(int clients) {
 } // namespace
 
 QString sampleCsv(int clients) {
-    static const ScratchFolder scratch;
-    const QString path = scratch.folder().file(QStringLiteral("%1.csv").arg(clients));
+    const QString path = scratchFile(QStringLiteral("%1.csv").arg(clients));
     const QStringList arguments{QString::number(clients), path};
     if (!QFile::exists(path) && QProcess::execute(QStringLiteral(MAKE_SAMPLE_CSV), arguments) != 0)
         giveUp(QStringLiteral("the sample file could not be written: ") + path);
+    return path;
+}
+
+QString sampleUtf8Csv(int clients) {
+    const QString path = scratchFile(QStringLiteral("%1-utf8.csv").arg(clients));
+    if (QFile::exists(path)) return path;
+    QFile plain(sampleCsv(clients));
+    QFile utf8(path);
+    if (!plain.open(QIODevice::ReadOnly) || !utf8.open(QIODevice::WriteOnly)) giveUp(path);
+    utf8.write(windows1250::decode(plain.readAll()).toUtf8());
     return path;
 }
 

@@ -7,8 +7,10 @@
 
 // Invented clients for the benchmarks, in temporary folders that go with the process. Each is made at its first use.
 
-// A CSV file of so many lines.
+// A CSV file of so many lines in Windows-1250.
 QString sampleCsv(int clients);
+// The same in UTF-8.
+QString sampleUtf8Csv(int clients);
 
 // A program folder that holds the files of the delivered one and a database of so many clients. Whoever changes the
 // database puts it back.

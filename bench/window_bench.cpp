@@ -1,5 +1,6 @@
 #include "benches.h"
 #include "comparison.h"
+#include "mainwindow/client_list_model.h"
 #include "mainwindow/frmTarlimo.h"
 #include "platform/qt_print_service.h"
 #include "records/client_database.h"
@@ -88,8 +89,18 @@ public:
             QTest::mouseClick(list_->viewport(), Qt::LeftButton, {}, place);
             QApplication::processEvents();
         });
-        if (window_.rekordszam() != row_ + 1) qFatal("the click went astray");
+        const QString number = list_->model()->index(row_, ClientListModel::rec).data().toString();
+        if (window_.rekordszam() != number.trimmed().toInt()) qFatal("the click went astray");
         return seconds;
+    }
+
+    // One step of dragging the corner of the window.
+    double timeOfResize() {
+        width_ = width_ == 1240 ? 1100 : width_ + 10;
+        return secondsOf([&] {
+            window_.resize(width_, 711);
+            QApplication::processEvents();
+        });
     }
 
 private:
@@ -99,6 +110,7 @@ private:
                        WindowServices{printing_, prompts_, {}, [] { return QString(); }, {}, {}}};
     QTreeView* list_;
     int row_ = 0;
+    int width_ = 1240;
 };
 
 } // namespace
@@ -117,9 +129,15 @@ void addWindowBenches(Suite& suite) {
                          [] { return timeOfEmptyStart({}); },
                          {}});
     const auto window = std::make_shared<std::unique_ptr<OpenWindow>>();
-    const auto click = [window] {
-        if (!*window) *window = std::make_unique<OpenWindow>();
-        return (*window)->timeOfClick();
+    const auto inWindow = [window](double (OpenWindow::*time)()) {
+        return [window, time] {
+            if (!*window) *window = std::make_unique<OpenWindow>();
+            return (**window.*time)();
+        };
     };
-    suite.add(Comparison{"click on a row, painted, 32767 clients", click, "", {}, {Aim::Kind::milliseconds, 20}});
+    using enum Aim::Kind;
+    suite.add(Comparison{
+        "click on a row, painted, 32767 clients", inWindow(&OpenWindow::timeOfClick), "", {}, {milliseconds, 16}});
+    suite.add(Comparison{
+        "step of resizing the window, painted", inWindow(&OpenWindow::timeOfResize), "", {}, {milliseconds, 16}});
 }

@@ -1,22 +1,20 @@
 #include "exchange/csv_import.h"
 
-#include "records/windows1250.h"
+#include "exchange/utf8_text.h"
 
 #include <QFileInfo>
-#include <QStringDecoder>
-
-#include <algorithm>
 
 namespace {
 
 using Result = ImportOutcome::Result;
 
-enum class Encoding { windows1250, utf8 };
+enum class Encoding { utf8, windows1250 };
+enum class Reading { whole, otherEncoding, failed };
 
 // Hands the whole text on in pieces, as long as `take` wants more. False if the device fails.
 template<class Take>
 bool readInPieces(QIODevice& csv, Take take) {
-    QByteArray piece(1 << 20, Qt::Uninitialized);
+    QByteArray piece(1 << 18, Qt::Uninitialized); // stays in the caches until it is converted and split
     if (!csv.seek(0)) return false;
     while (true) {
         const qint64 length = csv.read(piece.data(), piece.size());
@@ -25,35 +23,30 @@ bool readInPieces(QIODevice& csv, Take take) {
     }
 }
 
-// Nothing if the device fails.
-std::optional<Encoding> findEncoding(QIODevice& csv) {
-    constexpr char byteOrderMark[] = "\xEF\xBB\xBF";
-    QStringDecoder utf8(QStringDecoder::Utf8);
-    bool marked = false;
-    bool beyondAscii = false;
-    bool first = true;
+Reading readWindows1250(QIODevice& csv, CsvClientReader& reader, const ProgressFn& progress) {
     const bool wholeRead = readInPieces(csv, [&](QByteArrayView piece) {
-        if (std::exchange(first, false)) marked = piece.startsWith(byteOrderMark);
-        const QString text = utf8.decode(piece);
-        beyondAscii = beyondAscii || std::any_of(text.begin(), text.end(), [](QChar c) { return c.unicode() > 127; });
-        return !marked && !utf8.hasError();
-    });
-    if (!wholeRead) return std::nullopt;
-    return marked || (beyondAscii && !utf8.hasError()) ? Encoding::utf8 : Encoding::windows1250;
-}
-
-bool readClients(QIODevice& csv, Encoding encoding, CsvClientReader& reader, const ProgressFn& progress) {
-    QStringDecoder utf8(QStringDecoder::Utf8); // drops the byte order mark
-    const bool wholeRead = readInPieces(csv, [&](QByteArrayView piece) {
-        if (encoding == Encoding::utf8)
-            reader.feed(windows1250::encode(QString(utf8.decode(piece))));
-        else
-            reader.feed(piece);
+        reader.feed(piece);
         if (progress) progress(csv.pos(), csv.size());
         return !reader.hasEnded();
     });
     reader.finish();
-    return wholeRead;
+    return wholeRead ? Reading::whole : Reading::failed;
+}
+
+// Reads on behind an empty line that has ended the clients: the whole file tells the encoding.
+Reading readUtf8(QIODevice& csv, CsvClientReader& reader, const ProgressFn& progress) {
+    Utf8Text text;
+    const bool wholeRead = readInPieces(csv, [&](QByteArrayView piece) {
+        const QByteArrayView letters = text.convert(piece);
+        if (!text.isUtf8()) return false;
+        reader.feed(letters);
+        if (progress) progress(csv.pos(), csv.size());
+        return true;
+    });
+    if (!wholeRead) return Reading::failed;
+    reader.feed(text.finish());
+    reader.finish();
+    return text.isUtf8() ? Reading::whole : Reading::otherEncoding;
 }
 
 void addFaults(const CsvClientReader& reader, ImportOutcome& outcome) {
@@ -63,6 +56,33 @@ void addFaults(const CsvClientReader& reader, ImportOutcome& outcome) {
     outcome.firstFaults = faults.first;
     outcome.endedAtEmptyLine = reader.hasEnded();
     outcome.holdsNul = reader.hasSeenNul();
+}
+
+// Puts the clients of a text behind those who are `present`. Nothing if the text turned out to be of another encoding.
+std::optional<ImportOutcome> importAs(Encoding encoding, QIODevice& csv, const ProgramFolder& folder,
+                                      const ImportWay& way, const ClientPair& present, const ProgressFn& progress) {
+    ClientReplacement replacement(folder);
+    ImportOutcome outcome;
+    CsvClientReader reader(way.columns, way.emptyLine, [&](const Client& client) {
+        if (outcome.clients == 0) replacement.append(present.clients, present.twins);
+        replacement.append(client);
+        ++outcome.clients;
+        if (client.client.Osszegek[0] == 0) ++outcome.withoutAmount;
+    });
+    const auto read = encoding == Encoding::utf8 ? readUtf8 : readWindows1250;
+    const Reading reading = read(csv, reader, progress);
+    if (reading == Reading::otherEncoding) return std::nullopt;
+    if (reading == Reading::failed) return ImportOutcome{};
+    if (outcome.clients == 0) return ImportOutcome{Result::empty};
+    addFaults(reader, outcome);
+    CommitExtras extras;
+    if (way.confirm) {
+        const std::optional<QByteArray> notes = way.confirm(outcome);
+        if (!notes) return ImportOutcome{Result::calledOff};
+        extras.importNotes = *notes;
+    }
+    outcome.result = replacement.commit(extras) ? Result::imported : Result::notWritten;
+    return outcome;
 }
 
 } // namespace
@@ -77,32 +97,11 @@ ImportOutcome importClients(const QString& path, const ProgramFolder& folder, co
 
 ImportOutcome importClients(QIODevice& csv, const ProgramFolder& folder, const ImportWay& way,
                             const ProgressFn& progress) {
-    const std::optional<Encoding> encoding = findEncoding(csv);
-    if (!encoding) return {};
-
-    ClientReplacement replacement(folder);
-    if (way.mode == ImportMode::append) {
-        const std::optional<ClientPair> present = readClientPair(folder);
-        if (!present) return {Result::notWritten};
-        replacement.append(present->clients, present->twins);
-    }
-    ImportOutcome outcome;
-    CsvClientReader reader(way.columns, way.emptyLine, [&](const Client& client) {
-        replacement.append(client);
-        ++outcome.clients;
-        if (client.client.Osszegek[0] == 0) ++outcome.withoutAmount;
-    });
-    if (!readClients(csv, *encoding, reader, progress)) return {};
-    if (outcome.clients == 0) return {Result::empty};
-    addFaults(reader, outcome);
-    CommitExtras extras;
-    if (way.confirm) {
-        const std::optional<QByteArray> notes = way.confirm(outcome);
-        if (!notes) return {Result::calledOff};
-        extras.importNotes = *notes;
-    }
-    outcome.result = replacement.commit(extras) ? Result::imported : Result::notWritten;
-    return outcome;
+    const std::optional<ClientPair> present = way.mode == ImportMode::append ? readClientPair(folder) : ClientPair{};
+    if (!present) return {Result::notWritten};
+    // Windows-1250 shows at its first accented letter that it isn't UTF-8, so hardly anything is read twice.
+    const std::optional<ImportOutcome> asUtf8 = importAs(Encoding::utf8, csv, folder, way, *present, progress);
+    return asUtf8 ? *asUtf8 : *importAs(Encoding::windows1250, csv, folder, way, *present, progress);
 }
 
 QStringList faultLines(const ImportOutcome& outcome) {

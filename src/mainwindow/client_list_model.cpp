@@ -10,6 +10,7 @@
 #include <memory>
 #include <numeric>
 #include <unordered_set>
+#include <utility>
 
 namespace {
 
@@ -112,44 +113,64 @@ int compareKeys(const SortEntry& a, const SortEntry& b, const char* keys) {
 
 } // namespace
 
-void ClientListModel::Beolvas(const ProgramFolder& folder) {
-    refill(folder, Numbers::padded, [this] { return allRows(); });
+void ClientListModel::Beolvas(const ProgramFolder& folder) { readAnew(folder, Numbers::padded); }
+
+void ClientListModel::cmdBeolvas_Click(const ProgramFolder& folder) { readAnew(folder, Numbers::bare); }
+
+void ClientListModel::search(const ProgramFolder& folder, QStringView text) { refill(folder, Numbers::bare, text); }
+
+void ClientListModel::readAnew(const ProgramFolder& folder, Numbers numbers) {
+    stamp_.reset();
+    refill(folder, numbers, {});
 }
 
-void ClientListModel::cmdBeolvas_Click(const ProgramFolder& folder) {
-    refill(folder, Numbers::bare, [this] { return allRows(); });
-}
-
-void ClientListModel::search(const ProgramFolder& folder, QStringView text) {
-    refill(folder, Numbers::bare, [&] { return rowsWithName(text); });
-}
-
-template<class Choose>
-void ClientListModel::refill(const ProgramFolder& folder, Numbers numbers, Choose choose) {
+void ClientListModel::refill(const ProgramFolder& folder, Numbers numbers, QStringView name) {
     beginResetModel();
-    const bool isRead = RecordFile<ClientRec>(folder).readAllInto(clients_);
-    numbers_ = numbers;
-    rows_ = choose();
-    sortRows();
+    const bool otherTexts = std::exchange(numbers_, numbers) != numbers;
+    if (otherTexts && sortColumn() == rec) order_.clear();
+    const bool isRead = readIfWritten(folder);
+    rows_ = rowsWithName(name);
     endResetModel();
     if (!isRead) throw UnreadableFile(QString::fromLatin1(ClientRec::fileName));
 }
 
-ClientListModel::Rows ClientListModel::allRows() const {
-    Rows rows(static_cast<std::size_t>(clients_.size()) / sizeof(ClientRec));
-    std::iota(rows.begin(), rows.end(), 1);
+// Opens the file at any rate: over a network that alone brings its true size and time. False: it can't be read.
+bool ClientListModel::readIfWritten(const ProgramFolder& folder) {
+    RecordFile<ClientRec> file(folder);
+    const std::optional<FileStamp> stamp = fileStamp(folder.file(QString::fromLatin1(ClientRec::fileName)));
+    if (file.isReadable() && stamp && stamp == stamp_) return true;
+    stamp_ = stamp && showsNextWrite(*stamp) ? stamp : std::nullopt;
+    order_.clear();
+    const bool isRead = file.readAllInto(clients_);
+    if (!isRead) stamp_.reset();
+    return isRead;
+}
+
+ClientListModel::Rows ClientListModel::rowsWithName(QStringView text) {
+    const QByteArray wanted = windows1250::encode(trimBlanks(text));
+    if (wanted.isEmpty()) return order();
+    if (wanted.count('?') != text.count(u'?')) return {}; // no name holds a letter from outside the code page
+    const NameFinder finder(wanted);
+    std::vector<bool> found(static_cast<std::size_t>(clientCount()) + 1);
+    for (std::size_t number = 1; number < found.size(); ++number)
+        found[number] = finder.isIn(client(static_cast<int>(number)).Nev);
+    return inOrder(found);
+}
+
+// The clients whose record numbers are marked, as they are sorted.
+ClientListModel::Rows ClientListModel::inOrder(const std::vector<bool>& wanted) {
+    Rows rows;
+    std::copy_if(order().begin(), order().end(), std::back_inserter(rows),
+                 [&wanted](int number) { return wanted[static_cast<std::size_t>(number)]; });
     return rows;
 }
 
-ClientListModel::Rows ClientListModel::rowsWithName(QStringView text) const {
-    const QByteArray wanted = windows1250::encode(trimBlanks(text));
-    if (wanted.isEmpty()) return allRows();
-    if (wanted.count('?') != text.count(u'?')) return {}; // no name holds a letter from outside the code page
-    const NameFinder finder(wanted);
-    Rows rows;
-    for (const int number : allRows())
-        if (finder.isIn(client(number).Nev)) rows.push_back(number);
-    return rows;
+const ClientListModel::Rows& ClientListModel::order() {
+    if (!order_.empty()) return order_;
+    order_.resize(static_cast<std::size_t>(clientCount()));
+    std::iota(order_.begin(), order_.end(), 1);
+    sort(order_);
+    return order_;
 }
 
 void ClientListModel::setSort(int column, Qt::SortOrder order) {
@@ -161,10 +182,14 @@ void ClientListModel::setSort(int column, Qt::SortOrder order) {
         clients.push_back(recordNumber(index.row()));
 
     sort_ = Sort{column, order};
-    sortRows();
+    order_.clear();
+    std::vector<bool> shown(static_cast<std::size_t>(clientCount()) + 1);
+    for (const int number : rows_)
+        shown[static_cast<std::size_t>(number)] = true;
+    rows_ = inOrder(shown);
 
     if (!before.isEmpty()) {
-        std::vector<int> rowOfRecord(allRows().size() + 1, -1);
+        std::vector<int> rowOfRecord(static_cast<std::size_t>(clientCount()) + 1, -1);
         for (std::size_t row = 0; row < rows_.size(); ++row)
             rowOfRecord[static_cast<std::size_t>(rows_[row])] = static_cast<int>(row);
         QModelIndexList after;
@@ -177,14 +202,14 @@ void ClientListModel::setSort(int column, Qt::SortOrder order) {
     Q_EMIT layoutChanged({}, VerticalSortHint);
 }
 
-void ClientListModel::sortRows() {
+void ClientListModel::sort(Rows& numbers) const {
     if (!sort_) return;
     const std::size_t room = hungarian_order::keyRoom(sort_->column == Nev ? nameWidth : addressWidth);
-    const auto keys = std::make_unique_for_overwrite<char[]>(rows_.size() * room);
+    const auto keys = std::make_unique_for_overwrite<char[]>(numbers.size() * room);
     std::vector<SortEntry> entries;
-    entries.reserve(rows_.size());
+    entries.reserve(numbers.size());
     char* end = keys.get();
-    for (const int number : rows_) {
+    for (const int number : numbers) {
         char* const key = end;
         end = writeSortKey(number, key);
         entries.push_back({headOf(key), static_cast<std::uint32_t>(key - keys.get()), number});
@@ -195,7 +220,7 @@ void ClientListModel::sortRows() {
         if (order == 0) return a.recordNumber < b.recordNumber;
         return descending ? order > 0 : order < 0;
     });
-    std::transform(entries.begin(), entries.end(), rows_.begin(), [](const SortEntry& e) { return e.recordNumber; });
+    std::transform(entries.begin(), entries.end(), numbers.begin(), [](const SortEntry& e) { return e.recordNumber; });
 }
 
 char* ClientListModel::writeSortKey(int recordNumber, char* to) const {

@@ -2,6 +2,7 @@
 
 #include "printing/form_tabs.h"
 #include "records/client_records.h"
+#include "records/file_stamp.h"
 #include "records/program_folder.h"
 
 #include <QAbstractTableModel>
@@ -27,8 +28,8 @@ public:
     void Beolvas(const ProgramFolder& folder);
     // The same with bare record numbers.
     void cmdBeolvas_Click(const ProgramFolder& folder);
-    // Reads the file afresh and shows the clients whose name contains `text`, both without the blanks around them,
-    // whatever the case; all clients if it is empty. Bare record numbers.
+    // Shows the clients whose name contains `text`, both without the blanks around them, whatever the case; all clients
+    // if it is empty. Bare record numbers. Reads the file afresh if it has been written since.
     void search(const ProgramFolder& folder, QStringView text);
 
     // Sorts the rows by what a column shows and keeps them so through all readings to come; until the first call they
@@ -66,18 +67,22 @@ private:
     };
     using Rows = std::vector<int>;
 
-    template<class Choose>
-    void refill(const ProgramFolder& folder, Numbers numbers, Choose choose);
-    Rows allRows() const;
-    Rows rowsWithName(QStringView text) const;
-    void sortRows();
+    void readAnew(const ProgramFolder& folder, Numbers numbers);
+    void refill(const ProgramFolder& folder, Numbers numbers, QStringView name);
+    bool readIfWritten(const ProgramFolder& folder);
+    Rows rowsWithName(QStringView text);
+    Rows inOrder(const std::vector<bool>& wanted);
+    const Rows& order();
+    void sort(Rows& numbers) const;
     QString text(int recordNumber, int column) const;
     QString numberText(int recordNumber) const;
     const ClientRec& client(int recordNumber) const;
     char* writeSortKey(int recordNumber, char* to) const;
 
-    QByteArray clients_; // all records of nevek1.dat as last read
-    Rows rows_;          // record numbers in screen order
+    QByteArray clients_;             // all records of nevek1.dat as last read
+    std::optional<FileStamp> stamp_; // of that file, if its next write is sure to show
+    Rows order_;                     // record numbers of all clients as they are sorted; empty: to be sorted anew
+    Rows rows_;                      // record numbers in screen order
     Numbers numbers_ = Numbers::padded;
     std::optional<Sort> sort_;
 };

@@ -18,13 +18,16 @@ StationeryPage::StationeryPage(const ProgramFolder& folder, QSizeF sizeMm, QWidg
     , folder_(folder)
     , sizeMm_(sizeMm) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    sizeChanges_.setSingleShot(true);
+    sizeChanges_.setInterval(150);
+    connect(&sizeChanges_, &QTimer::timeout, this, [this] { update(); });
 }
 
 void StationeryPage::setPicture(const QString& fileName, QSizeF sizeMm) {
     if (fileName == fileName_ && sizeMm == sizeMm_) return;
     fileName_ = fileName;
     sizeMm_ = sizeMm;
-    pictureSize_ = QSize();
+    readFor_ = QSize();
     for (const Placed& placed : placed_)
         layOut(placed);
     update();
@@ -71,13 +74,14 @@ void StationeryPage::layOut(const Placed& placed) const {
 
 void StationeryPage::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
+    if (isVisible()) sizeChanges_.start();
     for (const Placed& placed : placed_)
         layOut(placed);
 }
 
-const QPixmap& StationeryPage::scaledPicture(QSize size) {
-    if (pictureSize_ == size) return picture_;
-    pictureSize_ = size;
+const QPixmap& StationeryPage::pictureOf(QSize size) {
+    if (readFor_ == size || (!readFor_.isEmpty() && sizeChanges_.isActive())) return picture_;
+    readFor_ = size;
     // Decoded at the size in view: that takes half the time of decoding the whole picture and scaling it down, and the
     // picture of the first tab is the largest single cost of a start.
     QImageReader reader(folder_.file(fileName_));
@@ -89,7 +93,7 @@ const QPixmap& StationeryPage::scaledPicture(QSize size) {
 void StationeryPage::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     const QRect form = formRect();
-    const QPixmap& picture = scaledPicture(form.size() * devicePixelRatio());
+    const QPixmap& picture = pictureOf(form.size() * devicePixelRatio());
     if (!picture.isNull()) {
         painter.drawPixmap(form, picture);
     } else {

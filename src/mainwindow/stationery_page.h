@@ -4,14 +4,15 @@
 #include "records/program_folder.h"
 
 #include <QPixmap>
+#include <QTimer>
 #include <QWidget>
 
 #include <vector>
 
 // The picture of a form with controls lying on it, all placed in millimetres of the real stationery, so that one table
 // of positions serves any window size and screen density. The form keeps its proportions, and shrinks to 60 % of its
-// natural size. The picture is read when it is shown; a missing one leaves a white page with a thin frame that names
-// the file.
+// natural size. The picture is read when it is shown, and again for another size once that rests; a missing one leaves
+// a white page with a thin frame that names the file.
 class StationeryPage : public QWidget {
     Q_OBJECT
 public:
@@ -45,13 +46,15 @@ private:
     double pixelsPerMm() const;
     QRect formRect() const;
     void layOut(const Placed& placed) const;
-    const QPixmap& scaledPicture(QSize size);
+    // For so many device pixels; while these change at each step of a drag, the last one for another size.
+    const QPixmap& pictureOf(QSize size);
 
     const ProgramFolder& folder_;
     PaperStyle style_;
     QSizeF sizeMm_;
     QString fileName_;
-    QPixmap picture_;   // null if the file is missing
-    QSize pictureSize_; // for which it was read, in device pixels
+    QPixmap picture_;    // null if the file is missing
+    QSize readFor_;      // in device pixels; empty: not read yet
+    QTimer sizeChanges_; // runs until the size has rested for a moment
     std::vector<Placed> placed_;
 };

@@ -28,8 +28,8 @@ constexpr QLatin1StringView oldNames[] = {"Arial CE"_L1, "Times New Roman CE"_L1
 constexpr qsizetype formFontWidth = 25;
 constexpr qsizetype labelFontWidth = 30;
 
-// More fonts than any set of forms uses; beyond it the book starts anew.
-constexpr std::size_t mostFaces = 64;
+// More fonts, or names of fonts, than any set of forms uses; beyond it the book starts anew.
+constexpr qsizetype mostRemembered = 64;
 
 QString withoutTrailingBlanks(const QString& name) {
     qsizetype length = name.size();
@@ -80,6 +80,12 @@ std::optional<QString> FontBook::cutName(const QString& name) const {
 }
 
 std::optional<QString> FontBook::familyFor(const QString& name) const {
+    if (const auto known = families_.constFind(name); known != families_.constEnd()) return *known;
+    if (families_.size() == mostRemembered) families_.clear();
+    return *families_.insert(name, findFamily(name));
+}
+
+std::optional<QString> FontBook::findFamily(const QString& name) const {
     const QString full = withoutTrailingBlanks(name);
     if (auto itself = installedName(full)) return itself;
     const QString plain = withoutCe(full);
@@ -120,7 +126,7 @@ const FontBook::Face& FontBook::face(const Font& font) {
     const auto known =
         std::find_if(faces_.begin(), faces_.end(), [&](const Entry& entry) { return entry.key == font; });
     if (known != faces_.end()) return known->face;
-    if (faces_.size() == mostFaces) faces_.clear();
+    if (faces_.size() == std::size_t{mostRemembered}) faces_.clear();
     faces_.push_back({font, faceOf(font, familyFor(font.name).value_or(font.name))});
     return faces_.back().face;
 }

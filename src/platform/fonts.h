@@ -4,6 +4,7 @@
 
 #include <QFont>
 #include <QFontMetricsF>
+#include <QHash>
 #include <QStringList>
 
 #include <optional>
@@ -25,7 +26,8 @@ public:
 
     // Installed family that serves `name`: itself or, where the system doesn't have it, the one of the same metrics.
     // Trailing blanks and the ending " CE" don't count, nor does the letters' case. A name that a record has cut stands
-    // for the one family that begins with it. Nothing if the name is unknown.
+    // for the one family that begins with it. Nothing if the name is unknown. A name that was asked for lately is
+    // answered at once: a form sets its fonts on each page, and a machine may have hundreds.
     std::optional<QString> familyFor(const QString& name) const;
     // Names to choose from: the installed families that a record can tell from each other, and the old names that are
     // served, in alphabetical order.
@@ -48,10 +50,12 @@ private:
         Face face;
     };
 
+    std::optional<QString> findFamily(const QString& name) const;
     std::optional<QString> installedName(const QString& name) const;
     std::optional<QString> cutName(const QString& name) const;
     bool isStorable(const QString& family) const;
 
     QStringList installed_;
+    mutable QHash<QString, std::optional<QString>> families_; // asked for lately, by name
     std::vector<Entry> faces_;
 };

@@ -1,35 +1,22 @@
 #include "records/file_stamp.h"
 
-#include <QDateTime>
-#include <QFileInfo>
+#include <chrono>
+#include <filesystem>
 
-#ifdef Q_OS_UNIX
-#include <QFile>
+using namespace std::chrono;
 
-#include <sys/stat.h>
-#endif
-
-namespace {
-
-constexpr qint64 nsEachMs = 1'000'000;
-
-}
-
-#ifdef Q_OS_UNIX
 std::optional<FileStamp> fileStamp(const QString& path) {
-    struct stat about {};
-    if (::stat(QFile::encodeName(path).constData(), &about) != 0) return std::nullopt;
-    return FileStamp{about.st_size, about.st_mtim.tv_sec * 1000 * nsEachMs + about.st_mtim.tv_nsec};
+    const std::filesystem::path file(path.toStdU16String());
+    std::error_code failed;
+    const auto size = std::filesystem::file_size(file, failed);
+    if (failed) return std::nullopt;
+    const auto written = std::filesystem::last_write_time(file, failed);
+    if (failed) return std::nullopt;
+    const nanoseconds time = file_clock::to_sys(written).time_since_epoch();
+    return FileStamp{static_cast<qint64>(size), time.count()};
 }
-#else
-std::optional<FileStamp> fileStamp(const QString& path) {
-    const QFileInfo file(path);
-    if (!file.exists()) return std::nullopt;
-    return FileStamp{file.size(), file.lastModified().toMSecsSinceEpoch() * nsEachMs};
-}
-#endif
 
 bool showsNextWrite(const FileStamp& stamp) {
-    constexpr qint64 coarsestMs = 2'000;
-    return QDateTime::currentMSecsSinceEpoch() - stamp.mtimeNs / nsEachMs > coarsestMs;
+    constexpr seconds coarsest{2};
+    return system_clock::now().time_since_epoch() - nanoseconds(stamp.mtimeNs) > coarsest;
 }

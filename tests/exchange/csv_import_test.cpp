@@ -81,6 +81,14 @@ TEST(CsvImport, DialectsOfLinesAndFields) {
         {"UTF-8 field cut by letters", QByteArray("ő").repeated(50) + "\n", {QString(36, u'ő').toStdString()}},
         {"UTF-8 but for one byte", "\xC5\x91 \xF5\n", {"Ĺ‘ ő"}},
         {"1250 cut at the end", "abc\xF5", {"abcő"}},
+        {"UTF-8 cut at the end", "ő\xE2\x80", {"ő?"}},
+        {"UTF-8 with mark and wrong bytes", "\xEF\xBB\xBF\xF5 \xE2\x80.\xC0\xAF\n", {"? ??.??"}},
+        {"UTF-8 of three and four bytes, all ends",
+         "\uFEFF\u07FF\u0800\uD7FF\uE000\uFFFD\U00010000\U0010FFFF\n",
+         {"???????"}},
+        {"surrogates are no UTF-8", "ő\xED\xA0\x80\n", {"Ĺ‘í\xC2\xA0€"}},
+        {"overlong is no UTF-8", "ő\xE0\x9F\xBF\n", {"Ĺ‘ŕźż"}},
+        {"beyond the last letter is no UTF-8", "ő\xF4\x90\x80\x80\n", {"Ĺ‘ô\xC2\x90€€"}},
     };
     for (const auto& [what, bytes, clients] : rows) {
         SCOPED_TRACE(what);

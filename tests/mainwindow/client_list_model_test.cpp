@@ -1,6 +1,8 @@
 #include "mainwindow/client_list_model.h"
 #include "support/test_folder.h"
 
+#include <QDateTime>
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -13,6 +15,10 @@ protected:
             folder.store(clientNamed(QString::fromUtf16(name)), ++k);
     }
     QString text(int row, int column) { return model.data(model.index(row, column), Qt::DisplayRole).toString(); }
+    void setWritten(const QDateTime& time) const {
+        QFile file(folder.folder().file(QStringLiteral("nevek1.dat")));
+        EXPECT_TRUE(file.open(QIODevice::ReadWrite) && file.setFileTime(time, QFileDevice::FileModificationTime));
+    }
     // Of the records in view, parted by blanks.
     std::string numbers() const {
         std::string all;
@@ -95,6 +101,30 @@ TEST_F(ClientList, SearchFindsPartsOfNamesInAnyCase) {
     EXPECT_EQ(numbers(), "1 4");
 }
 
+TEST_F(ClientList, SearchReadsAFileAgainOnlyWhenItHasBeenWritten) {
+    store({u"Zita", u"Éva"});
+    const QDateTime now = QDateTime::currentDateTime();
+    const QDateTime written = now.addSecs(-60);
+    setWritten(written);
+    model.setSort(0, Qt::AscendingOrder);
+    model.search(folder, {});
+    EXPECT_EQ(numbers(), "2 1");
+    const auto storeAs = [&](std::initializer_list<const char16_t*> names, const QDateTime& time) {
+        store(names);
+        setWritten(time);
+        model.search(folder, {});
+        return numbers();
+    };
+    EXPECT_EQ(storeAs({u"Bea", u"Éva"}, written), "2 1") << "the same size and time";
+    EXPECT_EQ(storeAs({u"Bea", u"Éva"}, written.addMSecs(1)), "1 2");
+    EXPECT_EQ(storeAs({u"Bea", u"Éva", u"Ida"}, written.addMSecs(1)), "1 2 3");
+    EXPECT_EQ(storeAs({u"Zita"}, now), "2 3 1");
+    EXPECT_EQ(storeAs({u"Bea"}, now), "1 2 3") << "a file written just now may be written again at the same time";
+    EXPECT_TRUE(QFile::remove(folder.folder().file(QStringLiteral("nevek1.dat"))));
+    model.search(folder, u"a");
+    EXPECT_EQ(model.clientCount(), 0);
+}
+
 TEST_F(ClientList, SortIsOffUntilSetAndThenKept) {
     store({u"Zsolt", u"Ádám", u"zoltán", u"Adam", u"ádám", u" Vezető blank"});
     model.Beolvas(folder);
@@ -109,6 +139,9 @@ TEST_F(ClientList, SortIsOffUntilSetAndThenKept) {
     EXPECT_EQ(numbers(), "1 3 2 5 4 6");
     model.search(folder, u"d");
     EXPECT_EQ(numbers(), "2 5 4");
+    model.removeRows({1});
+    model.setSort(0, Qt::AscendingOrder);
+    EXPECT_EQ(numbers(), "4 2"); // what has left the list stays out
     EXPECT_EQ(model.sortColumn(), 0);
 }
 
@@ -120,6 +153,10 @@ TEST_F(ClientList, NumbersSortAsTexts) {
     EXPECT_EQ(model.recordNumbers()[1], 2); // the blanks ahead put them in numeric order
     model.cmdBeolvas_Click(folder);
     EXPECT_EQ(numbers().rfind("1 10 100 11 ", 0), 0U);
+    setWritten(QDateTime::currentDateTime().addSecs(-60));
+    model.Beolvas(folder);
+    model.search(folder, u"a");
+    EXPECT_EQ(numbers().rfind("1 10 100 11 ", 0), 0U) << "the numbers have become bare";
 }
 
 TEST_F(ClientList, AddressesSortInHungarianOrderToo) {

@@ -117,6 +117,32 @@ TEST_F(WindowForms, PaperIsLightOnADarkDesktop) {
     QApplication::setPalette(before);
 }
 
+TEST(StationeryPage, ScalesThePictureWhileItsSizeChangesAndReadsItAgainOnceItRests) {
+    const TestFolder folder;
+    const auto store = [&](const QColor& colour) {
+        QImage picture(8, 8, QImage::Format_RGB32);
+        picture.fill(colour);
+        EXPECT_TRUE(picture.save(folder.folder().file(QStringLiteral("kep.png"))));
+    };
+    StationeryPage page(folder, QSizeF(50, 50));
+    const auto shownAt = [&](int size) {
+        page.resize(size, size);
+        return page.grab().toImage().pixelColor(size - 3, size - 3);
+    };
+    store(Qt::red);
+    page.setPicture(QStringLiteral("kep.png"));
+    page.show();
+    EXPECT_EQ(shownAt(200), QColor(Qt::red));
+    store(Qt::blue);
+    EXPECT_EQ(shownAt(300), QColor(Qt::red));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return shownAt(300) == QColor(Qt::blue); }));
+    page.hide(); // nobody drags it there
+    store(Qt::green);
+    page.resize(200, 200);
+    page.show();
+    EXPECT_EQ(shownAt(200), QColor(Qt::green));
+}
+
 TEST_F(WindowForms, EnvelopeBoxesEndOnTheDrawnLines) {
     const std::tuple<const char*, const char*, double> types[] = {
         {"OpB1", "BoritekC6.svg", 114}, {"OpB2", "BoritekC5.svg", 162}, {"OpB3", "BoritekC56.svg", 114}};
