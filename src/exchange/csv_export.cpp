@@ -163,5 +163,6 @@ ExportOutcome exportClients(const QString& path, const ProgramFolder& folder, co
     const bool hasOldLines = file.size() > count * exportLineLength;
     file.close();
     if (isNew && result != Result::written) return {QFile::remove(path) ? Result::notWritten : Result::brokenOff};
+    if (isNew) (void)flushFolder(QFileInfo(path).absolutePath());
     return {result, count, hasOldLines};
 }

@@ -15,9 +15,9 @@ constexpr char passedOverMark[] = "kihagyva";
 } // namespace
 
 ImportNotes::ImportNotes(const ProgramFolder& folder) {
-    QFile file(folder.file(QString::fromLatin1(importNotesFile)));
-    if (!file.open(QIODevice::ReadOnly)) return;
-    for (const QByteArray& line : file.readAll().split('\n')) {
+    const QString name = QString::fromLatin1(importNotesFile);
+    if (!QFile::exists(folder.file(name))) return;
+    for (const QByteArray& line : settings_file::read(folder, name).split('\n')) {
         const QList<QByteArray> words = line.split(' ');
         const bool isImported = words[0] == importedMark;
         if (words.size() != 4 || (!isImported && words[0] != passedOverMark)) continue;

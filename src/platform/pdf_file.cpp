@@ -1,6 +1,7 @@
 #include "platform/pdf_file.h"
 
 #include "printing/print_service.h"
+#include "records/disk.h"
 #include "records/file_replacement.h"
 
 #include <QBuffer>
@@ -39,6 +40,14 @@ void correctBoxes(QByteArray& pdf, const std::vector<PrintedPage>& pages) {
     }
 }
 
+// Made if it is missing; its name has to outlast a power failure like those of the files in it.
+bool isFolderThere(const QString& folder) {
+    if (QFileInfo(folder).isDir()) return true;
+    if (!QDir().mkpath(folder)) return false;
+    (void)flushFolder(QFileInfo(folder).path());
+    return true;
+}
+
 } // namespace
 
 QByteArray pdfOf(const PrintJob& job, FontBook& fonts, const PagePainted& painted) {
@@ -68,7 +77,7 @@ QString saveNewFile(const QByteArray& bytes, const QString& folder, const QStrin
     QString path = wanted.filePath();
     for (int number = 2; QFileInfo::exists(path); ++number)
         path = wanted.path() + u'/' + wanted.completeBaseName() + u"-%1."_s.arg(number) + wanted.suffix();
-    if (!QDir().mkpath(folder) || !replaceFile(path, bytes))
+    if (!isFolderThere(folder) || !replaceFile(path, bytes))
         throw DeviceError(482, u"A PDF fájl nem írható, nincs hozzá jog vagy betelt a lemez:\n"_s + path);
     return path;
 }

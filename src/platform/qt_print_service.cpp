@@ -2,6 +2,7 @@
 
 #include "platform/pdf_file.h"
 #include "platform/spooler.h"
+#include "records/file_replacement.h"
 
 #include <QPrinter>
 #include <QPrinterInfo>
@@ -14,6 +15,7 @@ QtPrintService::QtPrintService(const ProgramFolder& folder, Devices devices)
     if (devices == Devices::system) printers_ = QPrinterInfo::availablePrinterNames();
     printers_.append(u"PDF fájl"_s);
     fonts_.substituteOnScreen();
+    removeUnfinished(pdfFolder_);
 }
 
 QStringList QtPrintService::printers() { return printers_; }

@@ -46,11 +46,15 @@ struct PairPaths {
 
 bool isGone(const QString& path) { return QFile::remove(path) || !QFile::exists(path); }
 
+bool flushNames(const PairPaths& paths) { return flushFolder(QFileInfo(paths.clients).path()); }
+
 bool writeMarker(const PairPaths& paths) {
     const qint64 clientBytes = QFileInfo(paths.nextClients).size();
     const qint64 twinBytes = QFileInfo(paths.nextTwins).size();
-    return replaceFile(paths.marker, QByteArray::number(clientBytes) + ' ' + QByteArray::number(twinBytes) + ' ' +
-                                         paths.kept.toUtf8() + '\n');
+    const QByteArray words =
+        QByteArray::number(clientBytes) + ' ' + QByteArray::number(twinBytes) + ' ' + paths.kept.toUtf8() + '\n';
+    NewFile marker(paths.marker);
+    return marker.open() && marker.write(words) && marker.commit() && flushNames(paths);
 }
 
 // A new file waits in full length, or is in its place already.
@@ -103,24 +107,25 @@ void removeNewFiles(const PairPaths& paths) {
     QFile::remove(paths.nextNotes);
 }
 
-bool flushNames(const PairPaths& paths) { return flushFolder(QFileInfo(paths.clients).path()); }
-
-// Puts the new pair in place, or leaves the old one. If the old clients can't be put back now either, or nobody knows
-// whether the disk has it all, the marker stays for the next start.
+// Puts the new pair in place, or leaves the old one. As long as something is left to do or nobody knows whether the
+// disk has it all, the marker stays for the next start, or the next change of the database; what is in place stays so.
 bool finish(const PairPaths& paths) {
     const bool finished = newPairIsWhole(paths) && putNewPairInPlace(paths);
     if (!finished && !putOldClientsBack(paths)) return false;
-    if (!flushNames(paths)) return false;
-    if (finished && paths.kept.isEmpty()) QFile::remove(paths.previousClients);
-    if (isGone(paths.marker)) removeNewFiles(paths);
-    return flushNames(paths) && finished;
+    const bool isSettled = flushNames(paths) && (!finished || !paths.kept.isEmpty() || isGone(paths.previousClients));
+    if (isSettled && isGone(paths.marker)) {
+        removeNewFiles(paths);
+        (void)flushNames(paths); // the next commit flushes it
+    }
+    return finished;
 }
 
 // A swap that was refused half-way may hold the only copy of the clients: nothing is read or replaced before it is
 // done.
 bool settle(const ProgramFolder& folder) {
     const PairPaths paths = markedPaths(folder);
-    return !QFile::exists(paths.marker) || finish(paths);
+    if (QFile::exists(paths.marker)) (void)finish(paths);
+    return !QFile::exists(paths.marker);
 }
 
 template<class Rec>
@@ -214,6 +219,7 @@ Recovery finishInterruptedCommit(const ProgramFolder& folder) {
 }
 
 qint64 addClient(const ProgramFolder& folder, const Client& client) {
+    if (!settle(folder)) return 0;
     RecordFile<ClientRec> clients(folder);
     const qint64 number = clients.count() + 1;
     // The count of a file that can't be opened is 0: its first twin must not be overwritten.

@@ -9,12 +9,18 @@
 
 namespace {
 
-bool flushHandle(int handle) {
+// What a signal interrupted is done again.
+template<class Call>
+int repeated(Call call) {
     int result = 0;
     do
-        result = ::fsync(handle);
-    while (result != 0 && errno == EINTR);
-    return result == 0;
+        result = call();
+    while (result < 0 && errno == EINTR);
+    return result;
+}
+
+bool flushHandle(int handle) {
+    return repeated([handle] { return ::fsync(handle); }) == 0;
 }
 
 } // namespace
@@ -22,7 +28,8 @@ bool flushHandle(int handle) {
 bool flushToDisk(QFileDevice& file) { return file.flush() && flushHandle(file.handle()); }
 
 bool flushFolder(const QString& folder) {
-    const int handle = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    const QByteArray path = QFile::encodeName(folder);
+    const int handle = repeated([&] { return ::open(path.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); });
     if (handle < 0) return false;
     const bool flushed = flushHandle(handle) || errno == EINVAL; // some network drives have no such flush
     ::close(handle);

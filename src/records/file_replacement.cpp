@@ -54,8 +54,10 @@ bool NewFile::commit(Flush flush) {
 
 bool replaceFile(const QString& path, QByteArrayView bytes, Flush flush) {
     NewFile file(path);
-    return file.open() && file.write(bytes) && file.commit(flush) &&
-           (flush == Flush::no || flushFolder(QFileInfo(target(path)).path()));
+    if (!file.open() || !file.write(bytes) || !file.commit(flush)) return false;
+    if (flush == Flush::yes)
+        (void)flushFolder(QFileInfo(target(path)).path()); // it is in place, be its name safe or not
+    return true;
 }
 
 // QFile::rename would refuse where `to` exists.

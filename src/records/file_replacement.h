@@ -35,7 +35,8 @@ private:
 };
 
 // Makes `bytes` the contents of a file, which need not exist. False: all is as it was (disk full, no right, a file held
-// by another program), or, after a failed flush of the folder, may be so again when the power fails.
+// by another program, a flush that failed). True: it is in place; where only the flush of its folder failed, a power
+// failure may still bring the old contents back.
 [[nodiscard]] bool replaceFile(const QString& path, QByteArrayView bytes, Flush flush = Flush::yes);
 
 // Puts one file in the place of another; what stood there goes. False: both are where they were.
