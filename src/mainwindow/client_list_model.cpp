@@ -169,7 +169,7 @@ const ClientListModel::Rows& ClientListModel::order() {
     if (!order_.empty()) return order_;
     order_.resize(static_cast<std::size_t>(clientCount()));
     std::iota(order_.begin(), order_.end(), 1);
-    sort(order_);
+    sortNumbers(order_);
     return order_;
 }
 
@@ -202,7 +202,7 @@ void ClientListModel::setSort(int column, Qt::SortOrder order) {
     Q_EMIT layoutChanged({}, VerticalSortHint);
 }
 
-void ClientListModel::sort(Rows& numbers) const {
+void ClientListModel::sortNumbers(Rows& numbers) const {
     if (!sort_) return;
     const std::size_t room = hungarian_order::keyRoom(sort_->column == Nev ? nameWidth : addressWidth);
     const auto keys = std::make_unique_for_overwrite<char[]>(numbers.size() * room);

@@ -73,7 +73,7 @@ private:
     Rows rowsWithName(QStringView text);
     Rows inOrder(const std::vector<bool>& wanted);
     const Rows& order();
-    void sort(Rows& numbers) const;
+    void sortNumbers(Rows& numbers) const;
     QString text(int recordNumber, int column) const;
     QString numberText(int recordNumber) const;
     const ClientRec& client(int recordNumber) const;
