@@ -1,6 +1,5 @@
 #include "platform/job_painter.h"
 
-#include "platform/spooler.h"
 #include "printing/print_service.h"
 
 #include <QPainter>
@@ -52,8 +51,9 @@ private:
     // printer, and without the margins at the end everything stands some millimetres off there.
     void setUpPage(const QPageLayout& page) {
         const QPageSize sheet = sheetFor(page.pageSize(), offer_);
-        if (!device_.setPageSize(sheet) && !sameSheet(device_.pageLayout().pageSize(), sheet))
-            device_.setPageSize(nextLarger(sheet, offer_.sizes));
+        if (!device_.setPageSize(sheet) && !sameSheet(device_.pageLayout().pageSize(), sheet) &&
+            !device_.setPageSize(nextLarger(sheet, offer_.sizes)))
+            fail(u"A nyomtató nem fogadta el a lapméretet: "_s + sheet.name());
         device_.setPageOrientation(page.orientation());
         if (auto* printer = dynamic_cast<QPrinter*>(&device_)) printer->setFullPage(true);
         device_.setPageMargins(QMarginsF(), QPageLayout::Millimeter);
@@ -79,11 +79,7 @@ private:
 
     [[noreturn]] void fail(const QString& description) { drop({482, description}); }
 
-    // Nothing of the job may come out. Where the toolkit spools, abort() does nothing, and the painter's end would hand
-    // over what has been painted.
     [[noreturn]] void drop(const DeviceError& reason) {
-        const ShutSpooler shut;
-        if (auto* printer = dynamic_cast<QPrinter*>(&device_)) printer->abort();
         if (painter_.isActive()) painter_.end();
         throw reason;
     }
@@ -102,4 +98,11 @@ private:
 void paintJob(const PrintJob& job, QPagedPaintDevice& device, FontBook& fonts, const PaperOffer& offer,
               const PagePainted& painted) {
     JobPainter(device, fonts, offer, painted).paint(job);
+}
+
+PrintJob withCopies(const PrintJob& job) {
+    PrintJob all = job;
+    for (int copy = 1; copy < job.copies; ++copy)
+        all.pages.insert(all.pages.end(), job.pages.begin(), job.pages.end());
+    return all;
 }

@@ -50,7 +50,7 @@ bool isFolderThere(const QString& folder) {
 
 } // namespace
 
-QByteArray pdfOf(const PrintJob& job, FontBook& fonts, const PagePainted& painted) {
+QByteArray pdfForPrinter(const PrintJob& job, FontBook& fonts, const PaperOffer& offer, const PagePainted& painted) {
     QByteArray pdf;
     QBuffer buffer(&pdf);
     buffer.open(QIODevice::WriteOnly);
@@ -58,8 +58,13 @@ QByteArray pdfOf(const PrintJob& job, FontBook& fonts, const PagePainted& painte
     writer.setTitle(job.title);
     // A dot is a paper unit, so no text needs a scale of its own: less to write for each.
     writer.setResolution(static_cast<int>(paperUnitsPerInch));
-    paintJob(job, writer, fonts, {}, painted);
+    paintJob(job, writer, fonts, offer, painted);
     buffer.close();
+    return pdf;
+}
+
+QByteArray pdfOf(const PrintJob& job, FontBook& fonts, const PagePainted& painted) {
+    QByteArray pdf = pdfForPrinter(job, fonts, {}, painted);
     correctBoxes(pdf, job.pages);
     return pdf;
 }

@@ -10,6 +10,11 @@
 // job's number of copies is the caller's concern. DeviceError 482, 18 if it was stopped.
 QByteArray pdfOf(const PrintJob& job, FontBook& fonts, const PagePainted& painted = {});
 
+// The same for a printer that takes PDFs: on sheets of its offer, whose pages stay in whole points as its drivers have
+// them.
+QByteArray pdfForPrinter(const PrintJob& job, FontBook& fonts, const PaperOffer& offer,
+                         const PagePainted& painted = {});
+
 // "<yyyy-MM-dd>-<HHmmss>-<title>.pdf"; letters of the title that no file name may hold become '-'.
 QString pdfFileName(const QString& title, const QDateTime& now);
 

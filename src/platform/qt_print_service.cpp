@@ -1,5 +1,6 @@
 #include "platform/qt_print_service.h"
 
+#include "platform/native_printer.h"
 #include "platform/pdf_file.h"
 #include "platform/spooler.h"
 #include "records/file_replacement.h"
@@ -12,7 +13,10 @@ using namespace Qt::Literals::StringLiterals;
 QtPrintService::QtPrintService(const ProgramFolder& folder, Devices devices)
     : pdfFolder_(folder.file(u"nyomtatas"_s))
     , devices_(devices) {
-    if (devices == Devices::system) printers_ = QPrinterInfo::availablePrinterNames();
+    if (devices == Devices::system && spoolerAnswers()) {
+        printers_ = QPrinterInfo::availablePrinterNames();
+        default_ = QPrinterInfo::defaultPrinterName();
+    }
     printers_.append(u"PDF fájl"_s);
     fonts_.substituteOnScreen();
     removeUnfinished(pdfFolder_);
@@ -23,7 +27,8 @@ QStringList QtPrintService::printers() { return printers_; }
 int QtPrintService::defaultPrinter() {
     const int pdf = static_cast<int>(printers_.size()) - 1;
     if (devices_ == Devices::pdfOnly) return pdf;
-    const auto place = static_cast<int>(printers_.indexOf(QPrinterInfo::defaultPrinterName()));
+    if (spoolerAnswers()) default_ = QPrinterInfo::defaultPrinterName();
+    const auto place = static_cast<int>(printers_.indexOf(default_));
     return place < 0 ? pdf : place;
 }
 
@@ -34,18 +39,6 @@ bool QtPrintService::knowsFont(const QString& name) { return fonts_.familyFor(na
 float QtPrintService::textWidth(const Font& font, const QString& text) {
     return static_cast<float>(fonts_.face(font).metrics.horizontalAdvance(text) / paperUnitsPerMm);
 }
-
-namespace {
-
-// A file has no copies: its pages stand in it once for each.
-PrintJob withCopies(PrintJob job) {
-    const std::vector<PrintedPage> once = job.pages;
-    for (int copy = 1; copy < job.copies; ++copy)
-        job.pages.insert(job.pages.end(), once.begin(), once.end());
-    return job;
-}
-
-} // namespace
 
 float QtPrintService::lineHeight(const Font& font) {
     const QFontMetricsF& metrics = fonts_.face(font).metrics;
@@ -69,19 +62,23 @@ PagePainted QtPrintService::pagePainted(bool canCancel) const {
 }
 
 void QtPrintService::printOn(const QString& name, const PrintJob& job) {
+    const auto pages = static_cast<int>(job.pages.size());
+    bool stopped = false;
+    const KeepWaiting wait = [&] {
+        stopped = watch_ && !watch_(pages, pages, true);
+        return !stopped;
+    };
+    if (!spoolerAnswers(wait))
+        throw stopped ? stoppedByUser() : DeviceError(482, u"A nyomtatási szolgáltatás nem válaszol."_s);
     const QPrinterInfo info = QPrinterInfo::printerInfo(name);
     if (info.isNull() || info.state() == QPrinter::Error)
         throw DeviceError(482, u"A nyomtató nem érhető el: "_s + name);
-    // Named by its info: a printer made without a name prints on whatever is first.
-    QPrinter printer(info, QPrinter::HighResolution);
-    if (!printer.isValid()) throw DeviceError(482, u"A nyomtató nem használható: "_s + name);
-    printer.setDocName(job.title);
-    printer.setCopyCount(job.copies);
-    // A page is a preprinted sheet: where the driver prints on both sides by itself, every second form would be lost.
-    printer.setDuplex(QPrinter::DuplexNone);
     const QList<QPageSize> sizes = info.supportedPageSizes();
-    paintJob(job, printer, fonts_, {sizes, sizes.isEmpty() || info.supportsCustomPageSizes()},
-             pagePainted(canShutSpooler()));
-    if (const QString trouble = spoolerTrouble(); !trouble.isEmpty())
-        throw DeviceError(482, u"A nyomtató nem fogadta el a feladatot: "_s + trouble);
+    const PaperOffer offer{sizes, sizes.isEmpty() || info.supportsCustomPageSizes()};
+    if (!hasSpooler()) return printNatively(job, info, fonts_, offer, pagePainted(false));
+    const QPageLayout page = pageOf(job.pages.back().setup);
+    handToSpooler(name,
+                  {job.title, pdfForPrinter(job, fonts_, offer, pagePainted(true)), job.copies,
+                   sheetFor(page.pageSize(), offer).key(), page.orientation() == QPageLayout::Landscape},
+                  wait);
 }

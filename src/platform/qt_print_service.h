@@ -21,7 +21,8 @@ public:
     bool knowsFont(const QString& name) override;
     float textWidth(const Font& font, const QString& text) override;
     float lineHeight(const Font& font) override;
-    // In a PDF the pages stand once for each copy. DeviceError 9, 18, 482.
+    // In a PDF the pages stand once for each copy. A spooler gets the job only when it is painted to its end.
+    // DeviceError 9, 18, 482.
     void deliver(const PrintJob& job, int printer) override;
     // Can be stopped but on a native Windows printer.
     void watchDelivery(const DeliveryProgress& progress) override { watch_ = progress; }
@@ -36,6 +37,7 @@ private:
     QString pdfFolder_;
     Devices devices_;
     QStringList printers_;
+    QString default_; // as the system last told
     FontBook fonts_;
     QString lastPdf_;
     DeliveryProgress watch_;

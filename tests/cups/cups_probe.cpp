@@ -1,11 +1,13 @@
-// cups_probe QUEUE PAGE [stop]: prints two copies of one page on a queue of the system through the print service, with
-// texts that say in millimetres where they stand; `stop` cancels it once it is painted. Exit code: 0 handed over, 1
-// refused, 2 no such queue or page, 3 cancelled.
+// cups_probe QUEUE PAGE [stop | freeze PID | freeze-painted PID]: prints two copies of one page on a queue of the
+// system through the print service, with texts that say in millimetres where they stand. `stop` cancels it once it is
+// painted; `freeze` halts the spooler before the delivery, `freeze-painted` once the page is painted. Exit code: 0
+// handed over, 1 refused, 2 no such queue or page, 3 cancelled.
 
 #include "platform/qt_print_service.h"
 
 #include <QApplication>
 
+#include <csignal>
 #include <cstdio>
 #include <map>
 
@@ -40,7 +42,16 @@ int main(int argc, char** argv) {
     const auto printer = static_cast<int>(service.printers().indexOf(arguments.value(1)));
     const auto setup = setups.find(arguments.value(2));
     if (printer < 0 || setup == setups.end()) return 2;
-    if (arguments.contains(u"stop"_s)) service.watchDelivery([](int, int, bool canCancel) { return !canCancel; });
+    const QString trial = arguments.value(3);
+    const auto freeze = [&] { kill(arguments.value(4).toInt(), SIGSTOP); };
+    if (trial == u"stop") service.watchDelivery([](int, int, bool canCancel) { return !canCancel; });
+    if (trial == u"freeze") freeze();
+    if (trial == u"freeze-painted") {
+        service.watchDelivery([&](int, int, bool) {
+            freeze();
+            return true;
+        });
+    }
     try {
         service.deliver({u"Proba"_s, {pageWith(setup->second)}, 2}, printer);
     } catch (const DeviceError& error) {
