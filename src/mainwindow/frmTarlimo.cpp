@@ -58,6 +58,7 @@ void frmTarlimo::connectParts() {
     connect(SSTab1_, &TabStrip::searchWanted, this, [this](const QString& text) { searchList(text, 0); });
     connect(SSTab1_, &TabStrip::listWanted, clients_, &ClientZone::enterList);
     connect(SSTab1_, &TabStrip::clientWanted, clients_, [this] { clients_->setFocus(); });
+    connect(SSTab1_, &TabStrip::said, line_, &StatusLine::say);
     connect(SSTab1_, &TabStrip::dialogClosed, this, &frmTarlimo::activate);
     connect(clients_, &ClientZone::rowClicked, this, &frmTarlimo::rowClicked);
     connect(clients_, &ClientZone::deletePressed, this,

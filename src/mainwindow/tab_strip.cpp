@@ -55,9 +55,11 @@ void TabStrip::restore(int stored) {
 
 void TabStrip::store() {
     const auto number = static_cast<std::int16_t>(currentIndex());
-    // The next start would show another tab: nothing to stop a clerk for.
-    (void)updateRecord<Set>(
+    const bool stored = updateRecord<Set>(
         context_.folder, [number](Set& set) { set.SSTab1Tab = number; }, Flush::no);
+    // Nothing to stop a clerk for: the next start shows another tab.
+    if (!stored)
+        Q_EMIT said(QStringLiteral("A program mappája vagy a Set.dat nem írható, a beállítások nem maradnak meg."));
     reload();
 }
 

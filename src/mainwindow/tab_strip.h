@@ -45,6 +45,7 @@ Q_SIGNALS:
     void dialogClosed();
     // A client has to be clicked before what was tried.
     void clientWanted();
+    void said(const QString& text);
 
 protected:
     bool eventFilter(QObject* object, QEvent* event) override;
