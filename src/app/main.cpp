@@ -1,3 +1,4 @@
+#include "controls/colours.h"
 #include "mainwindow/frmTarlimo.h"
 #include "mainwindow/guarded.h"
 #include "platform/open_document.h"
@@ -48,6 +49,8 @@ int main(int argc, char** argv) {
     if (toolkit.load(QStringLiteral("qtbase_hu"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(&toolkit);
     QApplication::setWindowIcon(QIcon(folder.file(QStringLiteral("tarlimo.png"))));
+
+    useOwnSelectionColours();
 
     QtPrompts prompts(folder.path());
     if (!QFileInfo(folder.path()).isDir()) {

@@ -1,6 +1,8 @@
 #include "mainwindow/client_zone.h"
 
 #include "controls/named.h"
+#include "mainwindow/guarded.h"
+#include "prompts/titles.h"
 #include "records/client_database.h"
 
 #include <QCheckBox>
@@ -10,9 +12,10 @@
 #include <QPushButton>
 #include <QScrollBar>
 
-ClientZone::ClientZone(const ProgramFolder& folder, QWidget* parent)
+ClientZone::ClientZone(const ProgramFolder& folder, Prompts& prompts, QWidget* parent)
     : QWidget(parent)
     , folder_(folder)
+    , prompts_(prompts)
     , view_(new ClientListView)
     , order_(new QCheckBox(QStringLiteral("Lista sorrend növekedő")))
     , count_(new QLabel) {
@@ -95,9 +98,19 @@ void ClientZone::cmdBeolvas_Click() {
 // The stamp first: what is written while the file is read counts as a change.
 template<class Fill>
 void ClientZone::fill(Fill fill) {
-    (void)clientCount(folder_); // a missing file comes into being
-    stamp_ = stampNow();
-    fill();
+    stamp_.reset(); // no number of the rows counts until they are read
+    const bool filled = readable([&] {
+        (void)clientCount(folder_); // a missing file comes into being
+        const std::optional<FileStamp> stamp = stampNow();
+        fill();
+        stamp_ = stamp;
+    });
+    if (filled) return;
+    view_->setEmptyText(QStringLiteral("Az adatbázis nem olvasható."));
+    prompts_.tell({Icon::critical, titles::error,
+                   QStringLiteral("A(z) %1 fájl nem olvasható, más program használja.\n"
+                                  "Próbáld újra a Beolvasás gombbal.")
+                       .arg(QString::fromLatin1(ClientRec::fileName))});
 }
 
 std::optional<FileStamp> ClientZone::stampNow() const {
@@ -105,10 +118,11 @@ std::optional<FileStamp> ClientZone::stampNow() const {
 }
 
 bool ClientZone::checkFile() {
-    if (stampNow() == stamp_) return true;
+    if (stamp_ && stampNow() == stamp_) return true;
     Q_EMIT fileMoved();
-    Q_EMIT said(
-        QStringLiteral("Az adatbázist közben egy másik program megváltoztatta, a lista frissült. Nem történt semmi."));
+    if (stamp_)
+        Q_EMIT said(QStringLiteral(
+            "Az adatbázist közben egy másik program megváltoztatta, a lista frissült. Nem történt semmi."));
     return false;
 }
 

@@ -16,9 +16,10 @@ class QPushButton;
 class ClientZone : public QWidget {
     Q_OBJECT
 public:
-    explicit ClientZone(const ProgramFolder& folder, QWidget* parent = nullptr);
+    ClientZone(const ProgramFolder& folder, Prompts& prompts, QWidget* parent = nullptr);
 
-    // Refills the list from nevek1.dat, scrolled to where it was; buttons and count stay as they are told to be.
+    // Refills the list from nevek1.dat, scrolled to where it was; buttons and count stay as they are told to be. Where
+    // the file can't be read, the clerk is told, and no row serves until it could be.
     void Beolvas();
     // The same where all record numbers stand: those who are selected stay so, else client `inHand` is.
     void refresh(int inHand);
@@ -70,6 +71,7 @@ private:
     void tellFilled();
 
     const ProgramFolder& folder_;
+    Prompts& prompts_;
     std::optional<FileStamp> stamp_; // of the file when it was read
     ClientListModel model_;
     ClientListView* view_;

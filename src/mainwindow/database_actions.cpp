@@ -9,6 +9,7 @@
 #include "settings/general_settings.h"
 
 #include <QCursor>
+#include <QDir>
 #include <QGuiApplication>
 
 using namespace Qt::Literals::StringLiterals;
@@ -185,7 +186,8 @@ bool DatabaseActions::mayExportTo(const QString& path) {
 
 void DatabaseActions::tellExported(const QString& path, const ExportOutcome& outcome) {
     const auto refuse = [&](const QString& why) {
-        prompts_.tell({Icon::warning, titles::warning, u"A mentés nem sikerült:\n%1\n\n"_s.arg(path) + why});
+        prompts_.tell({Icon::warning, titles::warning,
+                       u"A mentés nem sikerült:\n%1\n\n"_s.arg(QDir::toNativeSeparators(path)) + why});
     };
     switch (outcome.result) {
     case ExportOutcome::Result::written:

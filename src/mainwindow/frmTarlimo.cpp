@@ -28,7 +28,7 @@ frmTarlimo::frmTarlimo(const ProgramFolder& folder, const WindowServices& servic
     , services_(services)
     , device_(services.printing)
     , SSTab1_(new TabStrip(tabs_, {folder_, device_, services_.prompts, selected_}))
-    , clients_(new ClientZone(folder))
+    , clients_(new ClientZone(folder, services.prompts))
     , panel_(new PrintPanel(folder, services_.prompts))
     , pane_(new QStackedWidget)
     , splitter_(arrange({SSTab1_, panel_, clients_, pane_}))
@@ -140,7 +140,7 @@ void frmTarlimo::load() {
 
 void frmTarlimo::restoreControls() {
     const auto set = readRecord<Set>(folder_); // a copy: the handlers below write the file
-    panel_->showPrinter(set.lbPrintNo);
+    panel_->restorePrinter(set.lbPrintNo);
     restoreTabs(tabs_, set, folder_);
     clients_->setAscending(set.chkListaSorren != 0);
     panel_->selectDevice(set.opPrinter_1);

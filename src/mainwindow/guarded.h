@@ -21,6 +21,17 @@ QString troubleOf(Action&& action) {
     return {};
 }
 
+// False: a file stopped it, and nobody has been told.
+template<class Action>
+bool readable(Action&& action) {
+    try {
+        action();
+    } catch (const UnreadableFile&) {
+        return false;
+    }
+    return true;
+}
+
 // False: it was stopped, and the clerk has been told.
 template<class Action>
 bool guarded(Prompts& prompts, Action&& action) {

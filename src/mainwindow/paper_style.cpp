@@ -1,5 +1,7 @@
 #include "mainwindow/paper_style.h"
 
+#include "controls/colours.h"
+
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
@@ -13,14 +15,9 @@ namespace {
 
 constexpr char doubtfulProperty[] = "doubtful";
 
-const QColor& focusColour() {
-    static const QColor blue(0x1f, 0x6f, 0xb5);
-    return blue;
-}
-
 QPalette paperPalette() {
     QPalette colours(QColor(0xf0, 0xf0, 0xf0), Qt::white); // buttons and paper: the toolkit works out the rest
-    colours.setColor(QPalette::Highlight, focusColour());
+    colours.setColor(QPalette::Highlight, focusColour);
     colours.setColor(QPalette::HighlightedText, Qt::white);
     colours.setColor(QPalette::PlaceholderText, QColor(0, 0, 0, 110));
     return colours;
@@ -63,7 +60,7 @@ void PaperStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
     if (element != PE_PanelLineEdit) return QProxyStyle::drawPrimitive(element, option, painter, widget);
     painter->fillRect(option->rect, ground(widget, option->state));
     if (option->state & State_HasFocus)
-        painter->fillRect(option->rect.adjusted(0, option->rect.height() - 1, 0, 0), focusColour());
+        painter->fillRect(option->rect.adjusted(0, option->rect.height() - 1, 0, 0), focusColour);
 }
 
 void PaperStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,

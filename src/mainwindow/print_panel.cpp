@@ -8,6 +8,7 @@
 #include "settings/general_settings.h"
 
 #include <QButtonGroup>
+#include <QFileInfo>
 #include <QLabel>
 #include <QPainter>
 #include <QRadioButton>
@@ -19,6 +20,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+constexpr auto chosenPrinterFile = "nyomtato.txt"; // its name in UTF-8
 constexpr int largestSample = 170;
 constexpr int smallestSample = 56;
 
@@ -143,9 +145,8 @@ QWidget* PrintPanel::buildDeviceChoice() {
 
     // `activated`, not the index' change: filling the box must not overwrite the stored number.
     connect(printers_, &QComboBox::activated, this, [this](int index) {
-        printNo_->setText(QString::number(index));
-        store([index](Set& set) { set.lbPrintNo = static_cast<std::int16_t>(index); });
-        showDeviceName();
+        showPrinter(index);
+        storePrinter(index);
     });
     connect(systemDevice_, &QRadioButton::toggled, this, &PrintPanel::storeDevice);
     return frame;
@@ -165,11 +166,38 @@ void PrintPanel::offerPrinters(const QStringList& printers, int systemDefault) {
     printers_->setCurrentIndex(-1);
 }
 
-void PrintPanel::showPrinter(int lbPrintNo) {
+void PrintPanel::restorePrinter(int lbPrintNo) {
+    const QString path = folder_.file(QString::fromLatin1(chosenPrinterFile));
+    if (!QFileInfo::exists(path)) {
+        showPrinter(lbPrintNo);
+        if (printers_->currentIndex() >= 0) storePrinter(lbPrintNo);
+        return;
+    }
+    const QString name =
+        QString::fromUtf8(settings_file::read(folder_, QString::fromLatin1(chosenPrinterFile))).remove(u'\n');
+    const int place = printers_->findText(name, Qt::MatchExactly | Qt::MatchCaseSensitive);
+    showPrinter(place);
+    if (place == lbPrintNo) return;
+    // Not the one that has moved to its number: print routines take the number. The name waits for its printer.
+    store([place](Set& set) { set.lbPrintNo = static_cast<std::int16_t>(place); });
+    if (place < 0)
+        prompts_.tell({Icon::information, titles::attention,
+                       u"A(z) ''%1'' nyomtató nem található,\nválassz másikat!"_s.arg(name)});
+}
+
+void PrintPanel::showPrinter(int place) {
     const QSignalBlocker block(printers_);
-    printNo_->setText(QString::number(lbPrintNo));
-    printers_->setCurrentIndex(lbPrintNo < printers_->count() ? lbPrintNo : -1);
+    printNo_->setText(QString::number(place));
+    printers_->setCurrentIndex(place < printers_->count() ? place : -1);
     showDeviceName();
+}
+
+void PrintPanel::storePrinter(int place) {
+    const QByteArray name = printers_->itemText(place).toUtf8();
+    const bool named = replaceFile(folder_.file(QString::fromLatin1(chosenPrinterFile)), name + '\n');
+    const bool numbered =
+        updateRecord<Set>(folder_, [place](Set& set) { set.lbPrintNo = static_cast<std::int16_t>(place); });
+    if (!named || !numbered) prompts_.tell(messages::settingNotWritten());
 }
 
 void PrintPanel::selectDevice(bool systemDefault) { (systemDefault ? systemDevice_ : chosenDevice_)->setChecked(true); }

@@ -20,8 +20,10 @@ public:
 
     // The device list, and which of it is the system's default.
     void offerPrinters(const QStringList& printers, int systemDefault);
-    // Restores the stored choice without storing it again; a number out of range leaves the box without selection.
-    void showPrinter(int lbPrintNo);
+    // Restores the stored choice: the printer of the kept name wherever it stands in the list now, without one the
+    // number, which is a place in the list. A printer that is gone is told once and leaves the box without selection,
+    // and so does a number out of range.
+    void restorePrinter(int lbPrintNo);
     void selectDevice(bool systemDefault);
     bool isSystemDefault() const;
 
@@ -44,6 +46,8 @@ private:
     QLayout* buildFeeds();
     QWidget* buildDeviceChoice();
     void showSample();
+    void showPrinter(int place);
+    void storePrinter(int place);
     void storeDevice();
     template<class Change>
     void store(Change change);

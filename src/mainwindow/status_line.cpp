@@ -2,6 +2,7 @@
 
 #include "controls/named.h"
 
+#include <QDir>
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
@@ -39,8 +40,9 @@ StatusLine::StatusLine(QWidget* parent)
     connect(cancel_, &QPushButton::clicked, this, &StatusLine::cancelPressed);
     connect(this, &QStatusBar::messageChanged, this, [this](const QString& text) {
         const QString path = file_.toHtmlEscaped();
+        const QString link = u"<a href=\"%1\">%2</a>"_s.arg(path, QDir::toNativeSeparators(path));
         QString html = text.toHtmlEscaped();
-        if (!path.isEmpty()) html.replace(path, u"<a href=\"%1\">%1</a>"_s.arg(path));
+        if (!path.isEmpty()) html.replace(path, link);
         message_->setText(html);
         message_->setToolTip(text.size() > 60 ? html : QString()); // a narrow window may cut it
     });

@@ -1,5 +1,6 @@
 #include "platform/native_printer.h"
 
+#include "platform/driver_settings.h"
 #include "printing/print_service.h"
 
 #include <QPrinter>
@@ -31,9 +32,11 @@ const QString& PrinterWarnings::first() const { return firstWarning; }
 
 void printNatively(const PrintJob& job, const QPrinterInfo& info, FontBook& fonts, const PaperOffer& offer,
                    const PagePainted& painted) {
+    const DriverSettings settings(job.driverSettings);
     // Named by its info: a printer made without a name prints on whatever is first.
     QPrinter printer(info, QPrinter::HighResolution);
     if (!printer.isValid()) throw DeviceError(482, u"A nyomtató nem használható: "_s + info.printerName());
+    settings.applyTo(printer);
     printer.setDocName(job.title);
     const bool makesCopies = printer.supportsMultipleCopies();
     if (makesCopies) printer.setCopyCount(job.copies);

@@ -83,6 +83,7 @@ QString saveNewFile(const QByteArray& bytes, const QString& folder, const QStrin
     for (int number = 2; QFileInfo::exists(path); ++number)
         path = wanted.path() + u'/' + wanted.completeBaseName() + u"-%1."_s.arg(number) + wanted.suffix();
     if (!isFolderThere(folder) || !replaceFile(path, bytes))
-        throw DeviceError(482, u"A PDF fájl nem írható, nincs hozzá jog vagy betelt a lemez:\n"_s + path);
+        throw DeviceError(482, u"A PDF fájl nem írható, nincs hozzá jog vagy betelt a lemez:\n"_s +
+                                   QDir::toNativeSeparators(path));
     return path;
 }

@@ -9,7 +9,8 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-PrinterDialog::PrinterDialog(const QStringList& printers, int current, const QString& summary, QWidget* parent)
+PrinterDialog::PrinterDialog(const QStringList& printers, int current, const QString& summary,
+                             const AskDriver& askDriver, QWidget* parent)
     : QDialog(parent)
     , printer_(new QComboBox)
     , copies_(new QSpinBox) {
@@ -41,10 +42,30 @@ PrinterDialog::PrinterDialog(const QStringList& printers, int current, const QSt
         what->setTextFormat(Qt::PlainText);
         form->addRow(what);
     }
-    form->addRow(u"&Nyomtató:"_s, printer_);
+    auto* device = new QHBoxLayout;
+    device->addWidget(printer_, 1);
+    if (askDriver) device->addWidget(driverButton(askDriver));
+    form->addRow(u"&Nyomtató:"_s, device);
     form->addRow(u"&Példányszám:"_s, copies_);
     form->addRow(buttons);
     form->setSizeConstraint(QLayout::SetFixedSize);
 }
 
-PrinterChoice PrinterDialog::choice() const { return {printer_->currentIndex(), copies_->value()}; }
+QPushButton* PrinterDialog::driverButton(const AskDriver& askDriver) {
+    auto* button = new QPushButton(u"&Tulajdonságok…"_s);
+    button->setObjectName(u"properties"_s);
+    button->setToolTip(u"A nyomtató saját beállításai erre a feladatra: tálca, papír…"_s);
+    button->setAutoDefault(false); // ENTER prints
+    const auto showForPrinter = [this, button] {
+        driverSettings_.clear();
+        const int place = printer_->currentIndex();
+        button->setEnabled(place >= 0 && place + 1 < printer_->count());
+    };
+    showForPrinter();
+    connect(printer_, &QComboBox::currentIndexChanged, this, showForPrinter);
+    connect(button, &QPushButton::clicked, this,
+            [this, askDriver] { driverSettings_ = askDriver(printer_->currentText(), driverSettings_, this); });
+    return button;
+}
+
+PrinterChoice PrinterDialog::choice() const { return {printer_->currentIndex(), copies_->value(), driverSettings_}; }

@@ -1,8 +1,10 @@
 #include "platform/qt_prompts.h"
 
+#include "platform/driver_settings.h"
 #include "platform/printer_dialog.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFileDialog>
 #include <QFileIconProvider>
 #include <QFileInfo>
@@ -143,7 +145,7 @@ QString QtPrompts::openFile(const QString& title, const QString& filter) {
     for (;;) {
         QString path = run(dialog);
         if (path.isEmpty() || QFileInfo(path).isFile()) return path;
-        tell({Icon::warning, title, u"A fájl nem található:\n"_s + path});
+        tell({Icon::warning, title, u"A fájl nem található:\n"_s + QDir::toNativeSeparators(path)});
     }
 }
 
@@ -157,14 +159,16 @@ QString QtPrompts::saveFile(const QString& title, const QString& filter) {
     for (;;) {
         QString path = run(dialog);
         if (path.isEmpty() || !QFileInfo::exists(path)) return path;
-        const Message question{Icon::question, title, u"A fájl már létezik, felülírod?\n"_s + path};
+        const Message question{Icon::question, title,
+                               u"A fájl már létezik, felülírod?\n"_s + QDir::toNativeSeparators(path)};
         if (ask(question, Answer::no) == Answer::yes) return path;
     }
 }
 
 std::optional<PrinterChoice> QtPrompts::choosePrinter(const QStringList& printers, int current,
                                                       const QString& summary) {
-    PrinterDialog dialog(printers, current, summary, window());
+    const auto ask = hasDriverDialog() ? askDriverSettings : PrinterDialog::AskDriver();
+    PrinterDialog dialog(printers, current, summary, ask, window());
     if (dialog.exec() != QDialog::Accepted) return std::nullopt;
     return dialog.choice();
 }

@@ -37,7 +37,7 @@ void Pen::ShowPrinter(const QString& summary) {
     attempt([&] {
         const auto choice = desk_->prompts.choosePrinter(device_.Printers(), device_.currentPrinter(), summary);
         if (!choice) throw DeviceError(32755, u"A nyomtatás megszakítva."_s);
-        device_.useForThisJob(choice->printer, choice->copies);
+        device_.useForThisJob(choice->printer, choice->copies, choice->driverSettings);
     });
 }
 

@@ -40,9 +40,10 @@ void PrintDevice::setCurrentPrinter(int index) {
     trackDefault_ = false;
 }
 
-void PrintDevice::useForThisJob(int printer, int copies) {
+void PrintDevice::useForThisJob(int printer, int copies, const QByteArray& driverSettings) {
     jobPrinter_ = requirePrinter(printer);
     job_.copies = copies;
+    job_.driverSettings = driverSettings;
 }
 
 void PrintDevice::startJob(FirstPage page) {

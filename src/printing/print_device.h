@@ -27,7 +27,7 @@ public:
     // For the job that begins next (or has begun) alone; after its EndDoc or KillDoc, which count without a page too,
     // the former device and a single copy are in force again. The page set-up is left as it is. DeviceError 9 beyond
     // the list.
-    void useForThisJob(int printer, int copies);
+    void useForThisJob(int printer, int copies, const QByteArray& driverSettings = {});
 
     // What one job leaves behind must not reach the next: page as told, "Times New Roman CE" (none if the service
     // doesn't know it) of 12 points, neither bold nor italic, the pen at 0, 0. The device in force stays. For use

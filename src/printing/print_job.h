@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QImage>
 #include <QSizeF>
 #include <QString>
@@ -49,4 +50,5 @@ struct PrintJob {
     QString title;
     std::vector<PrintedPage> pages;
     int copies = 1;
+    QByteArray driverSettings = {}; // of its printer, as the driver keeps them; empty: as it is set
 };

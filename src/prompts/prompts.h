@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 #include <QStringList>
 
@@ -21,10 +22,12 @@ struct Message {
 
 enum class Answer { yes, no };
 
-// What the user picked in the print dialog: place in the device list from 0, and copies from 1.
+// What the user picked in the print dialog: place in the device list from 0, copies from 1, and what the driver alone
+// understands (a tray), empty where nothing was chosen.
 struct PrinterChoice {
     int printer = 0;
     int copies = 1;
+    QByteArray driverSettings = {};
 };
 
 class Prompts {

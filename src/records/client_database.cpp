@@ -44,7 +44,9 @@ struct PairPaths {
     QString marker;
 };
 
-bool isGone(const QString& path) { return QFile::remove(path) || !QFile::exists(path); }
+bool isGone(const QString& path) {
+    return patiently([&] { return QFile::remove(path) || !QFile::exists(path); });
+}
 
 bool flushNames(const PairPaths& paths) { return flushFolder(QFileInfo(paths.clients).path()); }
 
@@ -156,9 +158,14 @@ std::optional<Client> readClient(const ProgramFolder& folder, qint64 number) {
 
 std::optional<ClientPair> readClientPair(const ProgramFolder& folder) {
     if (!settle(folder)) return std::nullopt;
-    std::optional<QByteArray> clients = wholeRecords<ClientRec>(folder);
-    std::optional<QByteArray> twins = wholeRecords<TwinRec>(folder);
-    if (!clients || !twins) return std::nullopt;
+    std::optional<QByteArray> clients;
+    std::optional<QByteArray> twins;
+    const bool isRead = patiently([&] {
+        clients = wholeRecords<ClientRec>(folder);
+        twins = wholeRecords<TwinRec>(folder);
+        return clients && twins;
+    });
+    if (!isRead) return std::nullopt;
     twins->resize(clients->size() / clientLength * twinLength, '\0');
     return ClientPair{std::move(*clients), std::move(*twins)};
 }

@@ -27,6 +27,8 @@ bool flushHandle(int handle) {
 
 bool flushToDisk(QFileDevice& file) { return file.flush() && flushHandle(file.handle()); }
 
+bool patiently(const std::function<bool()>& attempt) { return attempt(); }
+
 bool flushFolder(const QString& folder) {
     const QByteArray path = QFile::encodeName(folder);
     const int handle = repeated([&] { return ::open(path.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); });
@@ -36,7 +38,16 @@ bool flushFolder(const QString& folder) {
     return flushed;
 }
 #else
+#include <QDeadlineTimer>
+#include <QThread>
+
 #include <io.h>
+
+bool patiently(const std::function<bool()>& attempt) {
+    for (const QDeadlineTimer second(1000); !attempt(); QThread::msleep(20))
+        if (second.hasExpired()) return false;
+    return true;
+}
 
 bool flushToDisk(QFileDevice& file) { return file.flush() && ::_commit(file.handle()) == 0; }
 

@@ -62,9 +62,13 @@ bool replaceFile(const QString& path, QByteArrayView bytes, Flush flush) {
 
 // QFile::rename would refuse where `to` exists.
 bool moveOnto(const QString& from, const QString& to) {
-    std::error_code error;
-    std::filesystem::rename(QFileInfo(from).filesystemFilePath(), QFileInfo(to).filesystemFilePath(), error);
-    return !error;
+    const std::filesystem::path source = QFileInfo(from).filesystemFilePath();
+    const std::filesystem::path place = QFileInfo(to).filesystemFilePath();
+    return patiently([&] {
+        std::error_code error;
+        std::filesystem::rename(source, place, error);
+        return !error;
+    });
 }
 
 void removeUnfinished(const QString& folder) {

@@ -25,7 +25,7 @@ TEST_F(WindowStart, FirstStartMakesItsFilesAndNoOthers) {
     open();
     const QStringList made = QDir(files.folder().path()).entryList(QDir::Files, QDir::Name | QDir::IgnoreCase);
     EXPECT_EQ(made.join(u' ').toStdString(), "Betumeret.dat Betutip.dat boritek.dat CimkeSetup.dat Jogcimek.dat "
-                                             "Jogcimek2.dat Kepment.dat Kozlem.dat nevek1.dat Set.dat");
+                                             "Jogcimek2.dat Kepment.dat Kozlem.dat nevek1.dat nyomtato.txt Set.dat");
     EXPECT_TRUE(files.bytes(QStringLiteral("CimkeSetup.dat")).isEmpty()); // fallbacks are shown only
     EXPECT_EQ(text("txtLeft") + text("txtTop") + text("txtOszlop") + text("txtSor"), "5526");
     EXPECT_EQ(window->windowTitle(), QStringLiteral("Tarlimo program - 1.0.0"));
@@ -70,6 +70,7 @@ TEST_F(WindowStart, NumbersOutOfRangeSelectNothingElse) {
                   {3, 8, 4, "", "Picture1", "OpB1"},
                   {-1, -1, -1, "", "Picture1", "OpB1"}};
     for (const auto& start : starts) {
+        QFile::remove(files.folder().file(QStringLiteral("nyomtato.txt")));
         updateRecord<Set>(files, [&](Set& set) {
             set.lbPrintNo = start.printer;
             set.SSTab1Tab = start.tab;
@@ -82,6 +83,43 @@ TEST_F(WindowStart, NumbersOutOfRangeSelectNothingElse) {
         window->close();
         EXPECT_EQ(set().lbPrintNo, start.printer); // neither start nor exit picks another one
     }
+}
+
+TEST_F(WindowStart, TheChosenPrinterIsFoundByItsName) {
+    const auto stored = [&] { return text("Combo2") + ' ' + std::to_string(set().lbPrintNo); };
+    updateRecord<Set>(files, [](Set& set) { set.lbPrintNo = 1; });
+    open();
+    EXPECT_EQ(stored(), "Masodik 1");
+    service.names.prepend(QStringLiteral("Uj"));
+    open();
+    EXPECT_EQ(stored(), "Masodik 2");
+    service.names.removeOne(QStringLiteral("Masodik"));
+    open();
+    EXPECT_EQ(stored(), " -1") << "what has moved to its place is another printer";
+    ASSERT_EQ(prompts.told.size(), 1U);
+    EXPECT_EQ(joined(prompts.told[0]), "Figyelem!|A(z) ''Masodik'' nyomtató nem található,\nválassz másikat!");
+    open();
+    EXPECT_EQ(prompts.told.size(), 1U);
+    service.names << QStringLiteral("Masodik");
+    open();
+    EXPECT_EQ(stored(), "Masodik 3");
+}
+
+TEST_F(WindowStart, ClientsThatCannotBeReadAreToldAndComeBack) {
+    openNamed({u"Anna"});
+    const QString path = files.folder().file(QStringLiteral("nevek1.dat"));
+    ASSERT_TRUE(QFile::rename(path, path + u'x') && QDir().mkdir(path));
+    press("cmdBeolvas");
+    ASSERT_EQ(prompts.told.size(), 1U);
+    EXPECT_EQ(joined(prompts.told[0]), "Hiba|A(z) nevek1.dat fájl nem olvasható, más program használja.\n"
+                                       "Próbáld újra a Beolvasás gombbal.");
+    open();
+    EXPECT_EQ(prompts.told.size(), 2U);
+    EXPECT_EQ(rows(), "");
+    ASSERT_TRUE(QDir().rmdir(path) && QFile::rename(path + u'x', path));
+    press("cmdBeolvas");
+    EXPECT_EQ(rows(), "Anna");
+    EXPECT_EQ(prompts.told.size(), 2U);
 }
 
 TEST_F(WindowStart, ExitStoresItsOwnFieldsAlone) {

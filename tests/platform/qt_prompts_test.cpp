@@ -1,5 +1,7 @@
 #include "platform/qt_prompts.h"
 
+#include "platform/printer_dialog.h"
+
 #include <QApplication>
 #include <QComboBox>
 #include <QFileDialog>
@@ -141,6 +143,25 @@ TEST(QtPrompts, thePrintDialogAnswersWithDeviceAndCopies) {
 
     onNext<QDialog>([](QDialog& dialog) { EXPECT_FALSE(button(dialog, u"OK"_s)->isEnabled()); });
     EXPECT_FALSE(prompts.choosePrinter(printers, 3, {}).has_value());
+}
+
+TEST(PrinterDialog, whatTheDriverWasToldHoldsForItsPrinter) {
+    QStringList asked;
+    PrinterDialog dialog({u"Elso"_s, u"Masodik"_s, u"PDF fájl"_s}, 0, {},
+                         [&](const QString& name, const QByteArray& before, QWidget*) {
+                             asked << name + u'/' + QString::fromLatin1(before);
+                             return before + "tray";
+                         });
+    auto* properties = dialog.findChild<QPushButton*>(u"properties"_s);
+    properties->click();
+    properties->click();
+    EXPECT_EQ(dialog.choice().driverSettings, "traytray");
+    dialog.findChild<QComboBox*>()->setCurrentIndex(1);
+    EXPECT_EQ(dialog.choice().driverSettings, "") << "of another printer";
+    properties->click();
+    EXPECT_EQ(asked.join(u' ').toStdString(), "Elso/ Elso/tray Masodik/");
+    dialog.findChild<QComboBox*>()->setCurrentIndex(2);
+    EXPECT_FALSE(properties->isEnabled()) << "a file has no driver";
 }
 
 TEST(QtPrompts, fileDialogsAnswerWithThePathOrNothing) {

@@ -5,6 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <thread>
+
 #ifdef Q_OS_UNIX
 #include <csignal>
 #include <sys/resource.h>
@@ -29,6 +32,21 @@ TEST(FileReplacement, PutsWholeFilesInPlaceAndClearsWhatAKillLeft) {
     EXPECT_TRUE(moveOnto(folder.folder().file(u"b.dat"_s), path));
     EXPECT_EQ(folder.bytes(u"a.dat"_s), QByteArray("b"));
     EXPECT_FALSE(moveOnto(folder.folder().file(u"b.dat"_s), path));
+}
+
+// Where holding a file keeps others from replacing it (Windows) that alone is tried here.
+TEST(FileReplacement, WaitsForWhoHoldsTheFileForAMoment) {
+    const TestFolder folder;
+    folder.setBytes(u"a.dat"_s, "old");
+    const QString path = folder.folder().file(u"a.dat"_s);
+    QFile held(path);
+    ASSERT_TRUE(held.open(QIODevice::ReadOnly));
+    const std::jthread backup([&] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(200));
+        held.close();
+    });
+    EXPECT_TRUE(replaceFile(path, "new"));
+    EXPECT_EQ(folder.bytes(u"a.dat"_s), QByteArray("new"));
 }
 
 #ifdef Q_OS_UNIX

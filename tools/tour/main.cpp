@@ -1,3 +1,4 @@
+#include "controls/colours.h"
 #include "tour.h"
 
 #include <QApplication>
@@ -36,6 +37,7 @@ int main(int argc, char** argv) {
     const QStringList arguments(argv + 1, argv + argc);
     if (arguments.size() == 2 && arguments[0] == u"--once") {
         QApplication application(argc, argv);
+        useOwnSelectionColours();
         return Tour(QStringLiteral(TARLIMO_PROGRAM_FOLDER), arguments[1]).run() == 0 ? 0 : 1;
     }
     const bool named = arguments.size() == 2 && arguments[0] == u"--results";
