@@ -1,6 +1,7 @@
 #include "samples.h"
 
 #include "exchange/csv_import.h"
+#include "records/delivered_files.h"
 #include "records/windows1250.h"
 
 #include <QDir>
@@ -23,6 +24,8 @@ std::unique_ptr<ScratchFolder> filledFolder(int clients) {
     const QDir delivered(QStringLiteral(TARLIMO_PROGRAM_FOLDER));
     for (const QFileInfo& file : delivered.entryInfoList(QDir::Files))
         if (!file.isExecutable()) QFile::copy(file.filePath(), made->folder().file(file.fileName()));
+    if (!placeDelivered(delivered.filePath(deliveredFolder), made->folder()).isEmpty())
+        giveUp(QStringLiteral("the delivered settings could not be copied"));
     const ImportOutcome outcome = importClients(sampleCsv(clients), made->folder(), {ImportMode::overwrite});
     if (outcome.clients != clients) giveUp(QStringLiteral("the sample clients could not be imported"));
     return made;

@@ -9,6 +9,7 @@
 #include "platform/start_program.h"
 #include "platform/system_information.h"
 #include "prompts/titles.h"
+#include "records/delivered_files.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -38,15 +39,27 @@ bool mayRunBeside(const QString& holder, Prompts& prompts) {
     return prompts.ask({Icon::question, titles::attention, question.arg(holder)}, Answer::no) == Answer::yes;
 }
 
+// Before anything reads them. The program runs without, but what it prints lies in the corner of the paper.
+void placeSettings(const ProgramFolder& folder, Prompts& prompts) {
+    const QStringList failed = placeDelivered(folder.file(deliveredFolder), folder);
+    if (failed.isEmpty()) return;
+    prompts.tell({Icon::critical, titles::error,
+                  QStringLiteral("A kezdő beállításokat nem sikerült a program mappájába másolni.\n"
+                                 "Nyomtatás előtt szüntesd meg az okát (írásvédett mappa, betelt lemez),\n"
+                                 "és indítsd újra a programot!"),
+                  failed.join(u'\n')});
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
     Application application(argc, argv);
     QApplication::setApplicationVersion(QStringLiteral(TARLIMO_VERSION));
     const ProgramFolder folder(QApplication::applicationDirPath());
-    // Words of the toolkit's own (the file dialog's columns), where its translation is installed.
+    // Words of the toolkit's own (the file dialog's columns), from beside the program or where the system keeps them.
     QTranslator toolkit;
-    if (toolkit.load(QStringLiteral("qtbase_hu"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+    const QString words = QStringLiteral("qtbase_hu");
+    if (toolkit.load(words, folder.path()) || toolkit.load(words, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(&toolkit);
     QApplication::setWindowIcon(QIcon(folder.file(QStringLiteral("tarlimo.png"))));
 
@@ -61,6 +74,7 @@ int main(int argc, char** argv) {
     }
     const ProgramLock lock(folder);
     if (!lock.holder().isEmpty() && !mayRunBeside(lock.holder(), prompts)) return 0;
+    placeSettings(folder, prompts);
 
     QtPrintService printing(folder);
     int result = 1;

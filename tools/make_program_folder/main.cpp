@@ -1,7 +1,7 @@
 #include "make_program_folder/pictures.h"
 #include "make_program_folder/postcode_tables.h"
+#include "records/delivered_files.h"
 #include "records/file_replacement.h"
-#include "records/record_file.h"
 #include "settings/check_layouts.h"
 #include "settings/envelope_label_settings.h"
 #include "settings/general_settings.h"
@@ -12,19 +12,21 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 
+#include <array>
 #include <cstdio>
 #include <functional>
 
 // make_program_folder <assets folder> <target folder>
-// Fills a folder with all that the program needs beside itself: pictures, postcode tables, help page, blank posting
-// list, sample clients, factory settings. What the user may have changed there, the settings, is written only where it
-// is missing; all else is made anew when its source, or this tool, is newer.
+// Fills a folder with all that the program needs beside itself, and makes anew what is older than its source or than
+// this tool: pictures, postcode tables, help page, sample clients. What the users change, the settings and the blank
+// posting list, goes into the folder of delivered files, from where the program fetches what it lacks at its start.
 
 namespace {
 
 constexpr int stationeryPixelsPerMm = 10;
 constexpr QSize feedSampleSize(360, 360);
 constexpr QSize iconSize(256, 256);
+constexpr std::array programIconSizes{16, 24, 32, 48, 64, 256};
 constexpr QSize cursorSize(32, 32);
 
 // The bytes of a target file made from a source file; empty if the source is no good.
@@ -44,6 +46,13 @@ QByteArray moveCursor(const QString& source) {
     return image.isNull() ? QByteArray() : cursorFile(image, QPoint(cursorSize.width() / 2, cursorSize.height() / 2));
 }
 
+QByteArray programIcon(const QString& source) {
+    QList<QImage> images;
+    for (const int size : programIconSizes)
+        images << renderDrawing(source, QSize(size, size), Qt::transparent);
+    return images.first().isNull() ? QByteArray() : iconFile(images);
+}
+
 QByteArray postcodes(PostcodeTable (*table)(QStringView), const QString& source) {
     const PostcodeTable made = table(QString::fromUtf8(contents(source)));
     if (made.badLine > 0) std::fprintf(stderr, "%s: line %d is bad\n", qPrintable(source), made.badLine);
@@ -61,7 +70,7 @@ public:
         if (isUpToDate(path, sourcePath)) return;
         const QByteArray bytes = make(sourcePath);
         if (bytes.isEmpty()) return fail(sourcePath, "is missing or can't be used");
-        if (!replaceFile(path, bytes)) fail(path, "can't be written");
+        write(path, bytes);
     }
 
     // Every file of a folder, under its own name with another ending.
@@ -73,16 +82,21 @@ public:
             file(source + u'/' + name, QFileInfo(name).completeBaseName() + ending, make);
     }
 
+    // The factory values of this tool.
     template<class Rec>
     void record(const Rec& record) {
-        const QString name = QString::fromLatin1(Rec::fileName);
-        if (target_.exists(name)) return;
-        if (!RecordFile<Rec>(ProgramFolder(target_.path())).write(1, record)) fail(name, "can't be written");
+        const QString path = target_.filePath(deliveredFolder + u'/' + QString::fromLatin1(Rec::fileName));
+        const QByteArray bytes(reinterpret_cast<const char*>(&record), sizeof record);
+        if (contents(path) != bytes) write(path, bytes);
     }
 
     bool succeeded() const { return succeeded_; }
 
 private:
+    void write(const QString& path, QByteArrayView bytes) {
+        if (!replaceFile(path, bytes, Flush::no)) fail(path, "can't be written");
+    }
+
     // An empty file is one that the program found missing.
     static bool isUpToDate(const QString& path, const QString& source) {
         const QFileInfo target(path);
@@ -112,15 +126,18 @@ void makeAll(FolderMaker& maker) {
     maker.folder(QStringLiteral("stationery"), QStringLiteral("*.svg"), QStringLiteral(".jpg"), stationery);
     maker.folder(QStringLiteral("feed"), QStringLiteral("*.svg"), QStringLiteral(".jpg"), feedSample);
     maker.file(QStringLiteral("icons/tarlimo.svg"), QStringLiteral("tarlimo.png"), icon);
+    maker.file(QStringLiteral("icons/tarlimo.svg"), QStringLiteral("tarlimo.ico"), programIcon);
     maker.file(QStringLiteral("icons/H_move.svg"), QStringLiteral("H_move.cur"), moveCursor);
     maker.file(QStringLiteral("postcodes/telepulesek.csv"), QStringLiteral("Telepulesek.dat"),
                [](const QString& source) { return postcodes(settlementTable, source); });
     maker.file(QStringLiteral("postcodes/budapest.csv"), QStringLiteral("Budapest.dat"),
                [](const QString& source) { return postcodes(budapestTable, source); });
     maker.folder(QStringLiteral("help"), QStringLiteral("*.htm"), QStringLiteral(".htm"), contents);
-    maker.file(QStringLiteral("posting_list/Feladojegyzekures.xls"), QStringLiteral("Feladójegyzéküres.xls"), contents);
     maker.folder(QStringLiteral("sample"), QStringLiteral("*.csv"), QStringLiteral(".csv"), contents);
 
+    // What the users change.
+    maker.file(QStringLiteral("posting_list/Feladojegyzekures.xls"),
+               deliveredFolder + QStringLiteral("/Feladójegyzéküres.xls"), contents);
     maker.record(firstSet());
     maker.record(SetRcsekk::factory());
     maker.record(SetUlap::factory());
@@ -139,7 +156,7 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen"); // draws text, shows nothing
     const QGuiApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.size() != 3 || !QDir().mkpath(arguments[2])) {
+    if (arguments.size() != 3 || !QDir(arguments[2]).mkpath(deliveredFolder)) {
         std::fprintf(stderr, "usage: make_program_folder <assets folder> <target folder>\n");
         return 1;
     }

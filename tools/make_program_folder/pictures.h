@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QImage>
+#include <QList>
 
 // A drawing whose view box is in millimetres, at so many pixels a millimetre, on white. A null image if the file is no
 // drawing.
@@ -14,6 +15,9 @@ QByteArray jpegFile(const QImage& image);
 
 // A PNG file; empty if it could not be made.
 QByteArray pngFile(const QImage& image);
+
+// An icon file of the same drawing in several sizes up to 256 pixels.
+QByteArray iconFile(const QList<QImage>& images);
 
 // A cursor file of one picture: 32 bits a pixel as a bitmap, since not every system reads compressed ones.
 QByteArray cursorFile(const QImage& image, const QPoint& hotspot);

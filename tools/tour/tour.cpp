@@ -3,6 +3,7 @@
 #include "mainwindow/stationery_page.h"
 #include "overlay.h"
 #include "records/client_database.h"
+#include "records/delivered_files.h"
 
 #include <QAction>
 #include <QApplication>
@@ -49,6 +50,8 @@ Tour::Tour(const QString& delivered, const QString& results)
     : results_(results)
     , folder_(freshFolder(delivered))
     , printing_(folder_) {
+    check(placeDelivered(delivered + u'/' + deliveredFolder, folder_).isEmpty(),
+          QStringLiteral("the delivered settings come into place"));
     prompts_.csv = folder_.file(QStringLiteral("mintaugyfelek.csv"));
 }
 
