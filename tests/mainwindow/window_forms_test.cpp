@@ -154,7 +154,7 @@ TEST_F(WindowForms, EnvelopeBoxesEndOnTheDrawnLines) {
     for (const auto& [option, file, heightMm] : types) {
         press(option);
         QCoreApplication::processEvents();
-        QFile drawing(QStringLiteral(QT_TESTCASE_SOURCEDIR "/../assets/stationery/") + QLatin1String(file));
+        QFile drawing(QStringLiteral(TARLIMO_ASSETS "/stationery/") + QLatin1String(file));
         ASSERT_TRUE(drawing.open(QIODevice::ReadOnly));
         static const QRegularExpression line(QStringLiteral("<line [^>]*y1=\"([0-9.]+)\""));
         auto lines = line.globalMatch(QString::fromUtf8(drawing.readAll()));
