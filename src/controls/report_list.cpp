@@ -2,6 +2,7 @@
 
 #include "controls/named.h"
 
+#include <QPainter>
 #include <QScrollBar>
 
 QString RoomyRows::displayText(const QVariant& value, const QLocale& /*locale*/) const {
@@ -9,6 +10,19 @@ QString RoomyRows::displayText(const QVariant& value, const QLocale& /*locale*/)
     while (text.endsWith(u' '))
         text.chop(1);
     return text;
+}
+
+void RoomyRows::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const {
+    QStyleOptionViewItem cell = option;
+    if (cell.state & QStyle::State_Selected) {
+        const bool inUse = cell.widget != nullptr && cell.widget->hasFocus();
+        const QPalette::ColorGroup group = inUse ? QPalette::Active : QPalette::Inactive;
+        painter->fillRect(cell.rect, cell.palette.brush(group, QPalette::Highlight));
+        cell.palette.setBrush(QPalette::Text, cell.palette.brush(group, QPalette::HighlightedText));
+        cell.state &= ~(QStyle::State_Selected | QStyle::State_MouseOver);
+        cell.features &= ~QStyleOptionViewItem::Alternate; // would be drawn over it
+    }
+    QStyledItemDelegate::paint(painter, cell, index);
 }
 
 QSize RoomyRows::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {

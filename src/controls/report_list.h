@@ -4,11 +4,13 @@
 #include <QTreeWidget>
 
 // Rows with room above the accents of capitals, which a font's own line height may cut. The blanks that pad a stored
-// text are no reason to mark it as cut off.
+// text are no reason to mark it as cut off. Selected rows have the palette's colours, paler without the focus: the
+// looks of some desktops have colours of their own there, of which the paler one can't be seen.
 class RoomyRows : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
     QString displayText(const QVariant& value, const QLocale& locale) const override;
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 };
 

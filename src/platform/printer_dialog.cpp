@@ -45,7 +45,9 @@ PrinterDialog::PrinterDialog(const QStringList& printers, int current, const QSt
     auto* device = new QHBoxLayout;
     device->addWidget(printer_, 1);
     if (askDriver) device->addWidget(driverButton(askDriver));
-    form->addRow(u"&Nyomtató:"_s, device);
+    auto* caption = new QLabel(u"&Nyomtató:"_s);
+    caption->setBuddy(printer_);
+    form->addRow(caption, device);
     form->addRow(u"&Példányszám:"_s, copies_);
     form->addRow(buttons);
     form->setSizeConstraint(QLayout::SetFixedSize);
