@@ -20,6 +20,7 @@ struct Aim {
     enum class Kind {
         timesLimit,   // at most so many times the limit of the same run
         milliseconds, // at most
+        atMost,       // in the figure's own unit
         perSecond,    // at least so many pieces
         none          // shown for information
     };
@@ -43,16 +44,18 @@ struct Growth {
     std::function<double(int clients)> ours;
 };
 
-// A figure that is no time, such as a size; both are called once, after the measuring.
+// A figure that is taken once, such as a size; all of them after the measuring.
 struct Figure {
     std::string item;
     std::function<double()> ours;
-    std::string limitName;
-    std::function<double()> limit;
-    double atMostTimes;
+    const char* format; // with its unit
+    Aim aim;
+    std::string limitName = {};
+    std::function<double()> limit = {}; // may be missing
 };
 
-// Collects all that is to be measured, measures it and prints the tables.
+// Collects all that is to be measured, measures it and prints the tables. Of several turns the best one counts: other
+// work on the machine only ever adds.
 class Suite {
 public:
     void add(Comparison comparison) { comparisons_.push_back(std::move(comparison)); }

@@ -233,7 +233,11 @@ void addPrintBenches(Suite& suite) {
                              loop,
                              [printing] { return printing->timeOfBareLoop(); },
                              {Aim::Kind::timesLimit, form.timesLimit}});
-        suite.add(Figure{"bytes a form of these", [printing] { return printing->bytesOfForms(); }, loop,
-                         [printing] { return printing->bytesOfBareLoop(); }, 1});
+        suite.add(Figure{"bytes a form of these",
+                         [printing] { return printing->bytesOfForms(); },
+                         "%.0f",
+                         {Aim::Kind::timesLimit, 1},
+                         loop,
+                         [printing] { return printing->bytesOfBareLoop(); }});
     }
 }
