@@ -1,6 +1,7 @@
 #include "bare_files.h"
 
 #include "exchange/csv_clients.h"
+#include "records/page_buffer.h"
 
 #include <QFile>
 
@@ -87,16 +88,16 @@ const char* splitLines(const char* at, const char* end, BareWriter& clients, Bar
 
 } // namespace
 
-BareBytes bareRead(const QString& path) {
+QByteArrayView bareRead(const QString& path) {
+    static PageBuffer memory;
     const int file = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
     struct stat about {};
     if (file < 0 || ::fstat(file, &about) != 0) qFatal("nothing to read");
-    BareBytes result;
-    result.size = static_cast<std::size_t>(about.st_size);
-    result.bytes = std::make_unique_for_overwrite<char[]>(result.size);
-    if (::read(file, result.bytes.get(), result.size) != about.st_size) qFatal("the bare read failed");
+    memory.resize(about.st_size);
+    if (::read(file, memory.data(), static_cast<std::size_t>(about.st_size)) != about.st_size)
+        qFatal("the bare read failed");
     ::close(file);
-    return result;
+    return {memory.constData(), memory.size()};
 }
 
 void bareImport(const QString& csv, const QString& folder) {

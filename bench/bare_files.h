@@ -1,18 +1,13 @@
 #pragma once
 
+#include <QByteArrayView>
 #include <QString>
-
-#include <memory>
 
 // The limits of what a machine does with files: system calls and one buffer, nothing else.
 
-struct BareBytes {
-    std::unique_ptr<char[]> bytes;
-    std::size_t size = 0;
-};
-
-// Opens a file and reads the whole of it into memory that nobody has used yet.
-BareBytes bareRead(const QString& path);
+// Opens a file, reads the whole of it into memory that is there already and begins at a page, and closes it. The bytes
+// hold until the next call.
+QByteArrayView bareRead(const QString& path);
 
 // Reads a CSV file in pieces, splits it at line ends and ';', and writes both files of the client database into
 // `folder`: one buffer each, flushed to the disk and put in the place of the old files. Knows the columns and their
