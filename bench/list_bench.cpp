@@ -8,7 +8,6 @@
 #include "samples.h"
 
 #include <QApplication>
-#include <QCollator>
 #include <QDateTime>
 
 #include <algorithm>
@@ -130,28 +129,6 @@ double timeOfMemmem(int clients) {
     });
 }
 
-double timeOfSort(int clients) {
-    ClientListModel model;
-    model.Beolvas(sampleFolder(clients));
-    return secondsOf([&] { model.setSort(ClientListModel::Nev, Qt::AscendingOrder); });
-}
-
-double timeOfCollatorSort(int clients) {
-    static const QByteArray records = RecordFile<ClientRec>(sampleFolder(clients)).readAll();
-    const auto* client = reinterpret_cast<const ClientRec*>(records.constData());
-    std::vector<QString> names;
-    for (int i = 0; i < clients; ++i)
-        names.push_back(client[i].Nev.trimmed());
-    return secondsOf([&] {
-        const QCollator collator(QLocale(QLocale::Hungarian));
-        std::vector<QCollatorSortKey> keys;
-        keys.reserve(names.size());
-        for (const QString& name : names)
-            keys.push_back(collator.sortKey(name));
-        std::sort(keys.begin(), keys.end());
-    });
-}
-
 double timeOfDelete(int clients) {
     const ProgramFolder& folder = sampleFolder(clients);
     const qint64 number = clients / 2;
@@ -210,15 +187,8 @@ void addListBenches(Suite& suite) {
                                  with(timeOfMemmem, clients),
                                  {Aim::Kind::milliseconds, mostMs}});
     }
-    suite.add(Comparison{"sort in Hungarian order, 32767 names",
-                         with(timeOfSort, fullList),
-                         "sort by QCollator's keys",
-                         with(timeOfCollatorSort, fullList),
-                         {Aim::Kind::milliseconds, 20}});
-
     suite.add(Growth{"Beolvas", timeOfLoad});
     suite.add(Growth{"search keystroke", timeOfSearch});
-    suite.add(Growth{"sort by name", timeOfSort});
     suite.add(Growth{"rows out of the list", timeOfRemoval});
     suite.add(Growth{"delete one client", timeOfDelete});
 }
