@@ -31,21 +31,24 @@ public:
     ~BareWriter() { ::close(file_); }
 
     void write(const void* bytes, std::size_t size) {
-        if (buffer_.size() + size > pieceSize) empty();
         const auto* first = static_cast<const char*>(bytes);
+        if (buffer_.size() + size > pieceSize) empty();
+        if (size > pieceSize) return writeThrough(first, size);
         buffer_.insert(buffer_.end(), first, first + size);
     }
     void putInPlace() {
         empty();
         if (::fsync(file_) != 0 || std::rename((path_ + ".uj").constData(), path_.constData()) != 0)
-            qFatal("the bare import failed");
+            qFatal("a bare file could not be put in its place");
     }
 
 private:
     void empty() {
-        if (::write(file_, buffer_.data(), buffer_.size()) != static_cast<ssize_t>(buffer_.size()))
-            qFatal("the bare import failed");
+        writeThrough(buffer_.data(), buffer_.size());
         buffer_.clear();
+    }
+    void writeThrough(const char* bytes, std::size_t size) const {
+        if (::write(file_, bytes, size) != static_cast<ssize_t>(size)) qFatal("a bare write failed");
     }
 
     QByteArray path_;
@@ -138,4 +141,19 @@ void bareExport(const QString& path, int lines) {
     flush();
     if (::fsync(file) != 0) qFatal("the bare export failed");
     ::close(file);
+}
+
+void bareDelete(const QString& from, const QString& to) {
+    const struct {
+        const char* name;
+        qsizetype length; // of a record
+    } files[] = {{ClientRec::fileName, sizeof(ClientRec)}, {TwinRec::fileName, sizeof(TwinRec)}};
+    for (const auto& [name, length] : files) {
+        const QByteArrayView all = bareRead(from + u'/' + QLatin1String(name));
+        const qsizetype half = all.size() / length / 2 * length;
+        BareWriter written(to + u'/' + QLatin1String(name));
+        written.write(all.data(), static_cast<std::size_t>(half));
+        written.write(all.data() + half + length, static_cast<std::size_t>(all.size() - half - length));
+        written.putInPlace();
+    }
 }

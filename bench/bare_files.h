@@ -17,3 +17,7 @@ void bareImport(const QString& csv, const QString& folder);
 // Writes so many lines of an export into a new file: all bytes are copied into one buffer, which is handed to the
 // system when it is full. Knows nothing of records.
 void bareExport(const QString& path, int lines);
+
+// Reads both files of the client database in `from` and writes them into `to` without the client in the middle, each in
+// two calls, flushed to the disk and put in the place of the old file.
+void bareDelete(const QString& from, const QString& to);

@@ -8,7 +8,6 @@
 #include "samples.h"
 
 #include <QApplication>
-#include <QDateTime>
 
 #include <algorithm>
 #include <cstring>
@@ -41,13 +40,12 @@ double timeOfBareRead(int clients) {
     return secondsOf([path = clientFile(clients)] { bareRead(path); });
 }
 
-// What a clerk types into the name box, letter by letter: the first ones have many hits, the last ones few.
 const std::vector<QString>& typedTexts() {
     static const std::vector<QString> texts = [] {
         std::vector<QString> all;
-        for (const char16_t* word : {u"kovács", u"nagy éva", u"szabó zs", u"üveges t"})
-            for (const QString whole = QString::fromUtf16(word); qsizetype length : {1, 2, 3, 4, 5, 6})
-                all.push_back(whole.left(length));
+        for (const char16_t* word : typedWords)
+            for (qsizetype length = 1; length <= 6; ++length)
+                all.push_back(QString::fromUtf16(word, length));
         return all;
     }();
     return texts;
@@ -61,15 +59,6 @@ double meanTimeOfKeys(Search&& search) {
 }
 
 enum class Order { ofFile, byName };
-
-// A database that nobody has written for a while: right after a write each key would read it.
-const ProgramFolder& restingFolder(int clients) {
-    QFile file(clientFile(clients));
-    const QDateTime hourAgo = QDateTime::currentDateTime().addSecs(-3600);
-    if (!file.open(QIODevice::ReadWrite) || !file.setFileTime(hourAgo, QFileDevice::FileModificationTime))
-        qFatal("the time of the clients could not be set");
-    return sampleFolder(clients);
-}
 
 double timeOfSearch(int clients) {
     ClientListModel model;
