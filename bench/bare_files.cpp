@@ -103,9 +103,17 @@ QByteArrayView bareRead(const QString& path) {
     return {memory.constData(), memory.size()};
 }
 
-void bareImport(const QString& csv, const QString& folder) {
+void bareImport(const QString& csv, const QString& folder, const QString& present) {
     BareWriter clients(folder + u'/' + QLatin1String(ClientRec::fileName));
     BareWriter twins(folder + u'/' + QLatin1String(TwinRec::fileName));
+    const auto copy = [&present](const char* name, BareWriter& to) {
+        const QByteArrayView all = bareRead(present + u'/' + QLatin1String(name));
+        to.write(all.data(), static_cast<std::size_t>(all.size()));
+    };
+    if (!present.isEmpty()) {
+        copy(ClientRec::fileName, clients);
+        copy(TwinRec::fileName, twins);
+    }
     const int file = ::open(QFile::encodeName(csv).constData(), O_RDONLY | O_CLOEXEC);
     std::vector<char> buffer(2 * pieceSize);
     std::size_t kept = 0;

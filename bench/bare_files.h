@@ -9,10 +9,11 @@
 // hold until the next call.
 QByteArrayView bareRead(const QString& path);
 
-// Reads a CSV file in pieces, splits it at line ends and ';', and writes both files of the client database into
-// `folder`: one buffer each, flushed to the disk and put in the place of the old files. Knows the columns and their
-// widths and nothing of quotes, encodings, blanks or errors.
-void bareImport(const QString& csv, const QString& folder);
+// Copies both files of the client database in `present`, if one is named, reads a CSV file in pieces, splits it at line
+// ends and ';', and writes both files of the client database into `folder`: one buffer each, flushed to the disk and
+// put in the place of the old files. Knows the columns and their widths and nothing of quotes, encodings, blanks or
+// errors.
+void bareImport(const QString& csv, const QString& folder, const QString& present = {});
 
 // Writes so many lines of an export into a new file: all bytes are copied into one buffer, which is handed to the
 // system when it is full. Knows nothing of records.

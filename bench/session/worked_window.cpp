@@ -80,7 +80,9 @@ void WorkedWindow::press(const char* button) const {
 }
 
 void WorkedWindow::clickRow(int row) {
-    const QPoint place = list_.visualRect(list_.model()->index(row, 0)).center();
+    const QModelIndex index = list_.model()->index(row, 0);
+    list_.scrollTo(index);
+    const QPoint place = list_.visualRect(index).center();
     QTest::mouseClick(list_.viewport(), Qt::LeftButton, {}, place);
 }
 
@@ -158,7 +160,9 @@ double WorkedWindow::add() {
 
 double WorkedWindow::remove() {
     const qint64 before = clientCount(folder_);
-    clickRow(1);
+    int row = 0;
+    while (window_.rekordszam() == 0) // beyond the largest number nobody can be picked
+        clickRow(++row);
     QApplication::processEvents();
     const std::optional<Client> client = readClient(folder_, window_.rekordszam());
     ::sync();
