@@ -151,8 +151,8 @@ double WorkedWindow::add() {
     ::sync();
     const double seconds = untilPainted([this] { press("cmdRogzites"); });
     if (list_.model()->rowCount() != before + 1) qFatal("the client is not in the list");
-    RecordFile<ClientRec>(folder_).truncate(before);
-    RecordFile<TwinRec>(folder_).truncate(before);
+    QFile::resize(folder_.file(QString::fromLatin1(ClientRec::fileName)), before * qint64{sizeof(ClientRec)});
+    QFile::resize(folder_.file(QString::fromLatin1(TwinRec::fileName)), before * qint64{sizeof(TwinRec)});
     press("cmdBeolvas");
     QApplication::processEvents();
     return seconds;
