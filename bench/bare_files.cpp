@@ -1,6 +1,7 @@
 #include "bare_files.h"
 
 #include "exchange/csv_clients.h"
+#include "records/page_buffer.h"
 
 #include <QFile>
 
@@ -30,21 +31,24 @@ public:
     ~BareWriter() { ::close(file_); }
 
     void write(const void* bytes, std::size_t size) {
-        if (buffer_.size() + size > pieceSize) empty();
         const auto* first = static_cast<const char*>(bytes);
+        if (buffer_.size() + size > pieceSize) empty();
+        if (size > pieceSize) return writeThrough(first, size);
         buffer_.insert(buffer_.end(), first, first + size);
     }
     void putInPlace() {
         empty();
         if (::fsync(file_) != 0 || std::rename((path_ + ".uj").constData(), path_.constData()) != 0)
-            qFatal("the bare import failed");
+            qFatal("a bare file could not be put in its place");
     }
 
 private:
     void empty() {
-        if (::write(file_, buffer_.data(), buffer_.size()) != static_cast<ssize_t>(buffer_.size()))
-            qFatal("the bare import failed");
+        writeThrough(buffer_.data(), buffer_.size());
         buffer_.clear();
+    }
+    void writeThrough(const char* bytes, std::size_t size) const {
+        if (::write(file_, bytes, size) != static_cast<ssize_t>(size)) qFatal("a bare write failed");
     }
 
     QByteArray path_;
@@ -87,21 +91,29 @@ const char* splitLines(const char* at, const char* end, BareWriter& clients, Bar
 
 } // namespace
 
-BareBytes bareRead(const QString& path) {
+QByteArrayView bareRead(const QString& path) {
+    static PageBuffer memory;
     const int file = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
     struct stat about {};
     if (file < 0 || ::fstat(file, &about) != 0) qFatal("nothing to read");
-    BareBytes result;
-    result.size = static_cast<std::size_t>(about.st_size);
-    result.bytes = std::make_unique_for_overwrite<char[]>(result.size);
-    if (::read(file, result.bytes.get(), result.size) != about.st_size) qFatal("the bare read failed");
+    memory.resize(about.st_size);
+    if (::read(file, memory.data(), static_cast<std::size_t>(about.st_size)) != about.st_size)
+        qFatal("the bare read failed");
     ::close(file);
-    return result;
+    return {memory.constData(), memory.size()};
 }
 
-void bareImport(const QString& csv, const QString& folder) {
+void bareImport(const QString& csv, const QString& folder, const QString& present) {
     BareWriter clients(folder + u'/' + QLatin1String(ClientRec::fileName));
     BareWriter twins(folder + u'/' + QLatin1String(TwinRec::fileName));
+    const auto copy = [&present](const char* name, BareWriter& to) {
+        const QByteArrayView all = bareRead(present + u'/' + QLatin1String(name));
+        to.write(all.data(), static_cast<std::size_t>(all.size()));
+    };
+    if (!present.isEmpty()) {
+        copy(ClientRec::fileName, clients);
+        copy(TwinRec::fileName, twins);
+    }
     const int file = ::open(QFile::encodeName(csv).constData(), O_RDONLY | O_CLOEXEC);
     std::vector<char> buffer(2 * pieceSize);
     std::size_t kept = 0;
@@ -137,4 +149,19 @@ void bareExport(const QString& path, int lines) {
     flush();
     if (::fsync(file) != 0) qFatal("the bare export failed");
     ::close(file);
+}
+
+void bareDelete(const QString& from, const QString& to) {
+    const struct {
+        const char* name;
+        qsizetype length; // of a record
+    } files[] = {{ClientRec::fileName, sizeof(ClientRec)}, {TwinRec::fileName, sizeof(TwinRec)}};
+    for (const auto& [name, length] : files) {
+        const QByteArrayView all = bareRead(from + u'/' + QLatin1String(name));
+        const qsizetype half = all.size() / length / 2 * length;
+        BareWriter written(to + u'/' + QLatin1String(name));
+        written.write(all.data(), static_cast<std::size_t>(half));
+        written.write(all.data() + half + length, static_cast<std::size_t>(all.size() - half - length));
+        written.putInPlace();
+    }
 }

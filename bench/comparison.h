@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <ctime>
 #include <functional>
 #include <string>
 #include <vector>
@@ -15,11 +16,20 @@ double secondsOf(Work&& work) {
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
+// The same without what the process waits for, the disk above all.
+template<class Work>
+double cpuSecondsOf(Work&& work) {
+    const std::clock_t start = std::clock();
+    work();
+    return static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
+}
+
 // What a measured time is held against.
 struct Aim {
     enum class Kind {
         timesLimit,   // at most so many times the limit of the same run
         milliseconds, // at most
+        atMost,       // in the figure's own unit
         perSecond,    // at least so many pieces
         none          // shown for information
     };
@@ -43,16 +53,18 @@ struct Growth {
     std::function<double(int clients)> ours;
 };
 
-// A figure that is no time, such as a size; both are called once, after the measuring.
+// A figure that is taken once, such as a size; all of them after the measuring.
 struct Figure {
     std::string item;
     std::function<double()> ours;
-    std::string limitName;
-    std::function<double()> limit;
-    double atMostTimes;
+    const char* format; // with its unit
+    Aim aim;
+    std::string limitName = {};
+    std::function<double()> limit = {}; // may be missing
 };
 
-// Collects all that is to be measured, measures it and prints the tables.
+// Collects all that is to be measured, measures it and prints the tables. Of several turns the best one counts: other
+// work on the machine only ever adds.
 class Suite {
 public:
     void add(Comparison comparison) { comparisons_.push_back(std::move(comparison)); }

@@ -19,6 +19,7 @@ int main(int argc, char** argv) {
     Suite suite;
     addWindowBenches(suite); // first: a process starts others faster while it is small
     addListBenches(suite);
+    addSortBenches(suite);
     addAddressBenches(suite);
     addImportBenches(suite);
     addPrintBenches(suite);

@@ -1,6 +1,6 @@
+#include "bare_print.h"
 #include "benches.h"
 #include "comparison.h"
-#include "platform/qt_print_service.h"
 #include "printing/envelope.h"
 #include "printing/label_sheet.h"
 #include "printing/posting_receipt.h"
@@ -11,15 +11,11 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QFontMetricsF>
-#include <QPainter>
-#include <QPdfWriter>
 
 #include <memory>
 #include <numeric>
 #include <optional>
 #include <random>
-#include <variant>
 
 namespace {
 
@@ -88,85 +84,6 @@ void printForms(Routine print, PrintService& service) {
     if (outcome.pages == 0) qFatal("the forms did not print: %s", qPrintable(outcome.trouble));
 }
 
-// The real service, but for a job that it keeps instead of printing it.
-class KeepingService : public QtPrintService {
-public:
-    using QtPrintService::QtPrintService;
-    PrintJob job;
-
-    void deliver(const PrintJob& delivered, int /*printer*/) override { job = delivered; }
-};
-
-constexpr int dotsPerInch = 1200; // what a QPdfWriter begins with
-
-// What a bare loop has ready before it begins: fonts, and the texts with the points where their lines stand.
-struct BareText {
-    std::size_t font;
-    QPointF baseline;
-    QString text;
-};
-struct BarePicture {
-    QRectF box;
-    QImage picture;
-};
-using BareItem = std::variant<BareText, BarePicture>;
-
-class BareJob {
-public:
-    explicit BareJob(const PrintJob& job) {
-        for (const PrintedPage& page : job.pages) {
-            std::vector<BareItem>& items = pages_.emplace_back();
-            for (const PlacedItem& item : page.items)
-                items.push_back(std::visit([this](const auto& placed) { return BareItem(this->bare(placed)); }, item));
-        }
-    }
-
-    void print(const QString& path) const {
-        QPdfWriter writer(path);
-        writer.setPageSize(QPageSize(QSizeF(220, 110), QPageSize::Millimeter));
-        writer.setPageMargins(QMarginsF());
-        QPainter painter(&writer);
-        for (std::size_t page = 0; page < pages_.size(); ++page) {
-            if (page > 0) writer.newPage();
-            for (const BareItem& item : pages_[page])
-                std::visit([&](const auto& drawn) { draw(painter, drawn); }, item);
-        }
-    }
-
-private:
-    static constexpr double dotsPerMm = dotsPerInch / 25.4;
-
-    BareText bare(const PlacedText& placed) {
-        const std::size_t font = numberOf(placed.font);
-        const QPointF topLeft = QPointF(placed.x, placed.y) * dotsPerMm;
-        return {font, topLeft + QPointF(0, QFontMetricsF(fonts_[font]).ascent()), placed.text};
-    }
-    static BarePicture bare(const PlacedPicture& placed) {
-        const QSizeF size(placed.width, placed.height);
-        return {{QPointF(placed.x, placed.y) * dotsPerMm, size * dotsPerMm}, placed.picture};
-    }
-
-    void draw(QPainter& painter, const BareText& text) const {
-        painter.setFont(fonts_[text.font]);
-        painter.drawText(text.baseline, text.text);
-    }
-    static void draw(QPainter& painter, const BarePicture& picture) { painter.drawImage(picture.box, picture.picture); }
-
-    std::size_t numberOf(const Font& font) {
-        const auto place = std::find(known_.begin(), known_.end(), font);
-        const auto number = static_cast<std::size_t>(place - known_.begin());
-        if (place != known_.end()) return number;
-        known_.push_back(font);
-        QFont& made = fonts_.emplace_back(FontBook().familyFor(font.name).value_or(QString()));
-        made.setPixelSize(qRound(font.size * dotsPerInch / 72));
-        return number;
-    }
-
-    std::vector<Font> known_;
-    std::vector<QFont> fonts_;
-    std::vector<std::vector<BareItem>> pages_;
-};
-
 // A thousand forms in two ways. Its fonts stay known from job to job as they do in the window.
 class FormPrinting {
 public:
@@ -233,7 +150,11 @@ void addPrintBenches(Suite& suite) {
                              loop,
                              [printing] { return printing->timeOfBareLoop(); },
                              {Aim::Kind::timesLimit, form.timesLimit}});
-        suite.add(Figure{"bytes a form of these", [printing] { return printing->bytesOfForms(); }, loop,
-                         [printing] { return printing->bytesOfBareLoop(); }, 1});
+        suite.add(Figure{"bytes a form of these",
+                         [printing] { return printing->bytesOfForms(); },
+                         "%.0f",
+                         {Aim::Kind::timesLimit, 1},
+                         loop,
+                         [printing] { return printing->bytesOfBareLoop(); }});
     }
 }

@@ -1,9 +1,11 @@
 #include "samples.h"
 
 #include "exchange/csv_import.h"
+#include "records/client_records.h"
 #include "records/delivered_files.h"
 #include "records/windows1250.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QProcess>
 
@@ -56,4 +58,13 @@ const ProgramFolder& sampleFolder(int clients) {
     std::unique_ptr<ScratchFolder>& folder = folders[clients];
     if (!folder) folder = filledFolder(clients);
     return folder->folder();
+}
+
+const ProgramFolder& restingFolder(int clients) {
+    const ProgramFolder& folder = sampleFolder(clients);
+    QFile file(folder.file(QString::fromLatin1(ClientRec::fileName)));
+    const QDateTime hourAgo = QDateTime::currentDateTime().addSecs(-3600);
+    if (!file.open(QIODevice::ReadWrite) || !file.setFileTime(hourAgo, QFileDevice::FileModificationTime))
+        giveUp(QStringLiteral("the time of the clients could not be set"));
+    return folder;
 }

@@ -16,6 +16,12 @@ QString sampleUtf8Csv(int clients);
 // database puts it back.
 const ProgramFolder& sampleFolder(int clients);
 
+// The same, written a while ago: right after a write each key of a search would read it.
+const ProgramFolder& restingFolder(int clients);
+
+// What a clerk types into the name box: the first letters of each have many hits, the last ones few.
+constexpr const char16_t* typedWords[] = {u"kovács", u"nagy-s", u"szabó ", u"üveges", u"tóth z"};
+
 // A folder of its own with nothing in it.
 class ScratchFolder {
 public:
@@ -26,15 +32,15 @@ private:
     ProgramFolder folder_{dir_.path()};
 };
 
-// Says yes and picks nothing: no measured way asks.
+// Says yes, picks no file, and prints on the device that is preset.
 class QuietPrompts : public Prompts {
 public:
     void tell(const Message& /*message*/) override {}
     Answer ask(const Message& /*message*/, Answer /*preset*/) override { return Answer::yes; }
     QString openFile(const QString& /*title*/, const QString& /*filter*/) override { return {}; }
     QString saveFile(const QString& /*title*/, const QString& /*filter*/) override { return {}; }
-    std::optional<PrinterChoice> choosePrinter(const QStringList& /*printers*/, int /*current*/,
+    std::optional<PrinterChoice> choosePrinter(const QStringList& /*printers*/, int current,
                                                const QString& /*summary*/) override {
-        return {};
+        return PrinterChoice{current};
     }
 };

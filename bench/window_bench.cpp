@@ -1,21 +1,19 @@
+#include "bare_files.h"
 #include "benches.h"
 #include "comparison.h"
-#include "mainwindow/client_list_model.h"
-#include "mainwindow/frmTarlimo.h"
-#include "platform/qt_print_service.h"
 #include "records/client_database.h"
 #include "samples.h"
+#include "window_session.h"
 
-#include <QProcess>
 #include <QStandardPaths>
-#include <QTest>
-#include <QTreeView>
 
 #include <memory>
 
+#include <unistd.h>
+
 namespace {
 
-constexpr int fullList = maxClientNumber;
+constexpr int fullList = static_cast<int>(maxClientNumber);
 
 // An X server to start windows on: the one of this session, or one of our own if there is none.
 class XServer {
@@ -24,8 +22,9 @@ public:
         const QString own = QStandardPaths::findExecutable(QStringLiteral("Xvfb"));
         if (!display_.isEmpty() || own.isEmpty()) return;
         server_.setStandardErrorFile(QProcess::nullDevice());
-        server_.start(own, {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
-                            QStringLiteral("0"), QStringLiteral("1920x1200x24")});
+        // Left to itself the server starts anew when its last window has gone, and the next one waits for that.
+        server_.start(own, {QStringLiteral("-noreset"), QStringLiteral("-displayfd"), QStringLiteral("1"),
+                            QStringLiteral("-screen"), QStringLiteral("0"), QStringLiteral("1920x1200x24")});
         if (server_.waitForReadyRead()) display_ = u':' + QString::fromLatin1(server_.readLine().trimmed());
     }
     XServer(const XServer&) = delete;
@@ -43,17 +42,20 @@ private:
     QProcess server_;
 };
 
-QProcessEnvironment environmentFor(const QString& display) {
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("QT_QPA_PLATFORM"),
-                       display.isEmpty() ? QStringLiteral("offscreen") : QStringLiteral("xcb"));
-    environment.insert(QStringLiteral("QT_QPA_PLATFORMTHEME"), QString());
-    environment.insert(QStringLiteral("DISPLAY"), display);
-    return environment;
+double timeOfBareDelete(int clients) {
+    static const ScratchFolder scratch;
+    const QString from = sampleFolder(clients).path();
+    ::sync();
+    return secondsOf([&] { bareDelete(from, scratch.folder().path()); });
 }
 
+struct Start {
+    double seconds;
+    double peakMegabytes;
+};
+
 // A whole process, from its start until it tells that its window has been painted.
-double timeOfStart(const QString& program, const QStringList& arguments, const QString& display) {
+Start startOf(const QString& program, const QStringList& arguments, const QString& display) {
     QProcess child;
     child.setProcessEnvironment(environmentFor(display));
     child.setStandardErrorFile(QProcess::nullDevice());
@@ -62,82 +64,109 @@ double timeOfStart(const QString& program, const QStringList& arguments, const Q
         if (!child.waitForReadyRead(60'000)) qFatal("no window came up: %s", qPrintable(program));
     });
     child.waitForFinished();
-    return seconds;
+    return {seconds, child.readAll().toDouble()};
 }
 
-double timeOfOwnStart(const QString& display) {
-    return timeOfStart(QStringLiteral(START_WINDOW), {sampleFolder(fullList).path()}, display);
+Start ownStart(const QString& display) {
+    return startOf(QStringLiteral(START_WINDOW), {sampleFolder(fullList).path()}, display);
 }
 
-double timeOfEmptyStart(const QString& display) { return timeOfStart(QStringLiteral(EMPTY_WINDOW), {}, display); }
+Start emptyStart(const QString& display) { return startOf(QStringLiteral(EMPTY_WINDOW), {}, display); }
 
-// The window of the program on a full database, open as long as the process runs.
-class OpenWindow {
-public:
-    OpenWindow() {
-        window_.resize(1240, 711);
-        window_.show();
-        if (!QTest::qWaitForWindowExposed(&window_)) qFatal("the window did not open");
-        list_ = window_.findChild<QTreeView*>(QStringLiteral("ListView1"));
+void addStarts(Suite& suite) {
+    const auto server = std::make_shared<XServer>();
+    const char* const limit = "Qt window with one letter";
+    const auto add = [&](const std::string& where, const QString& display, const Aim& time, const Aim& memory) {
+        suite.add(Comparison{"start to first paint" + where, [server, display] { return ownStart(display).seconds; },
+                             limit, [server, display] { return emptyStart(display).seconds; }, time});
+        suite.add(Figure{"memory at the start" + where, [server, display] { return ownStart(display).peakMegabytes; },
+                         "%.0f MB", memory, limit, [server, display] { return emptyStart(display).peakMegabytes; }});
+    };
+    if (!server->display().isEmpty())
+        add(", X server", server->display(), {Aim::Kind::timesLimit, 4}, {Aim::Kind::atMost, 55});
+    // There is no server to talk to here: the empty window costs next to nothing, so this ratio has no aim.
+    add(", offscreen", {}, {}, {});
+}
+
+using Session = std::shared_ptr<WindowSession>;
+
+Session sessionWith(int clients, int fonts = 0) {
+    return std::make_shared<WindowSession>([clients]() -> const ProgramFolder& { return restingFolder(clients); },
+                                           fonts);
+}
+
+Run asking(const Session& session, const char* act) {
+    return [session, act] { return session->ask(act); };
+}
+
+void addActs(Suite& suite) {
+    const Session full = sessionWith(fullList);
+    const Session nearlyFull = sessionWith(fullList - 1); // has room for one more
+    const struct {
+        const char* item;
+        const Session& session;
+        const char* act;
+        double mostMs;
+    } acts[] = {{"click on a row", full, "click", 16},
+                {"letter typed into the search", full, "key", 16},
+                {"tab that was shown before, the slowest", full, "tab", 16},
+                {"all rows selected", full, "all", 16},
+                {"step of resizing the window", full, "resize", 16},
+                {"client added, with its flush", nearlyFull, "add", 16},
+                {"click on a header of the list", full, "sort", 25}};
+    for (const auto& [item, session, act, mostMs] : acts)
+        suite.add(Comparison{
+            item + std::string(", painted"), asking(session, act), "", {}, {Aim::Kind::milliseconds, mostMs}});
+}
+
+void addBatches(Suite& suite) {
+    for (const int fonts : {57, 400}) {
+        const Session session = sessionWith(1000, fonts);
+        suite.add(Comparison{"batch of 1000 with " + std::to_string(fonts) + " fonts",
+                             asking(session, "batch"),
+                             "bare QPdfWriter loop, no flush",
+                             asking(session, "bare"),
+                             {Aim::Kind::timesLimit, 1}});
     }
+    using enum Aim::Kind;
+    const Session large = sessionWith(fullList);
+    const auto figure = [&](const char* item, const char* format, const Aim& aim, const std::function<double()>& ours) {
+        suite.add(Figure{item + std::string(", batch of 32767"), ours, format, aim});
+    };
+    figure("first sign of life", "%.0f ms", {atMost, 100}, [large] { return large->ask("sign") * 1000; });
+    figure("cancelled", "%.0f ms", {atMost, 200}, [large] { return large->ask("cancel") * 1000; });
+    figure("memory a page", "%.1f KB", {atMost, 3}, [] {
+        const Session session = sessionWith(fullList);
+        const double before = session->ask("peak");
+        session->ask("batch");
+        return (session->ask("peak") - before) * 1024 / fullList;
+    });
+}
 
-    // From the press of the button until all forms show the client.
-    double timeOfClick() {
-        row_ = row_ == 1 ? 2 : 1; // in view however low the list is
-        const QPoint place = list_->visualRect(list_->model()->index(row_, 0)).center();
-        const double seconds = secondsOf([&] {
-            QTest::mouseClick(list_->viewport(), Qt::LeftButton, {}, place);
-            QApplication::processEvents();
-        });
-        const QString number = list_->model()->index(row_, ClientListModel::rec).data().toString();
-        if (window_.rekordszam() != number.trimmed().toInt()) qFatal("the click went astray");
-        return seconds;
-    }
-
-    // One step of dragging the corner of the window.
-    double timeOfResize() {
-        width_ = width_ == 1240 ? 1100 : width_ + 10;
-        return secondsOf([&] {
-            window_.resize(width_, 711);
-            QApplication::processEvents();
-        });
-    }
-
-private:
-    QtPrintService printing_{sampleFolder(fullList), Devices::pdfOnly};
-    QuietPrompts prompts_;
-    frmTarlimo window_{sampleFolder(fullList),
-                       WindowServices{printing_, prompts_, {}, [] { return QString(); }, {}, {}}};
-    QTreeView* list_;
-    int row_ = 0;
-    int width_ = 1240;
-};
+void addDeletes(Suite& suite) {
+    for (const int clients : {fullList, 300'000})
+        suite.add(Comparison{"delete of one client of " + std::to_string(clients),
+                             asking(sessionWith(clients), "delete"),
+                             "loop that reads, writes, flushes, renames",
+                             [clients] { return timeOfBareDelete(clients); },
+                             {}});
+    suite.add(Figure{"memory of a delete of one of 300000",
+                     [] {
+                         const Session session = sessionWith(300'000);
+                         session->ask("delete");
+                         return session->ask("peak");
+                     },
+                     "%.0f MB",
+                     {},
+                     "bytes of both files",
+                     [] { return 300'000 * (sizeof(ClientRec) + sizeof(TwinRec)) / 1e6; }});
+}
 
 } // namespace
 
 void addWindowBenches(Suite& suite) {
-    const auto server = std::make_shared<XServer>();
-    const Aim aim{Aim::Kind::timesLimit, 5};
-    if (!server->display().isEmpty())
-        suite.add(Comparison{"start to first paint, X server", [server] { return timeOfOwnStart(server->display()); },
-                             "empty Qt window, same size", [server] { return timeOfEmptyStart(server->display()); },
-                             aim});
-    // There is no server to talk to here: the empty window costs next to nothing, so this ratio has no aim.
-    suite.add(Comparison{"start to first paint, offscreen",
-                         [] { return timeOfOwnStart({}); },
-                         "empty Qt window, same size",
-                         [] { return timeOfEmptyStart({}); },
-                         {}});
-    const auto window = std::make_shared<std::unique_ptr<OpenWindow>>();
-    const auto inWindow = [window](double (OpenWindow::*time)()) {
-        return [window, time] {
-            if (!*window) *window = std::make_unique<OpenWindow>();
-            return (**window.*time)();
-        };
-    };
-    using enum Aim::Kind;
-    suite.add(Comparison{
-        "click on a row, painted, 32767 clients", inWindow(&OpenWindow::timeOfClick), "", {}, {milliseconds, 16}});
-    suite.add(Comparison{
-        "step of resizing the window, painted", inWindow(&OpenWindow::timeOfResize), "", {}, {milliseconds, 16}});
+    addStarts(suite);
+    addActs(suite);
+    addBatches(suite);
+    addDeletes(suite);
 }

@@ -1,14 +1,15 @@
 #pragma once
 
+#include "../peak_memory.h"
+
 #include <QEvent>
 #include <QTimer>
 #include <QWidget>
 
 #include <cstdio>
-#include <cstdlib>
 
-// Tells on the standard output that the window has been painted for the first time, all its children included, and ends
-// the process there.
+// Tells on the standard output that the window has been painted for the first time, all its children included, and how
+// much memory that took, and ends the process there.
 class EndAtFirstPaint : public QObject {
 public:
     explicit EndAtFirstPaint(QWidget& window) { window.installEventFilter(this); }
@@ -21,7 +22,7 @@ public:
 
 private:
     void end() {
-        std::puts("painted");
+        std::printf("%f\n", peakMegabytes());
         std::fflush(stdout);
         std::_Exit(0);
     }

@@ -58,13 +58,14 @@ void addFaults(const CsvClientReader& reader, ImportOutcome& outcome) {
     outcome.holdsNul = reader.hasSeenNul();
 }
 
-// Puts the clients of a text behind those who are `present`. Nothing if the text turned out to be of another encoding.
+// Puts the clients of a text behind those who are there, or in their place. Nothing if the text turned out to be of
+// another encoding.
 std::optional<ImportOutcome> importAs(Encoding encoding, QIODevice& csv, const ProgramFolder& folder,
-                                      const ImportWay& way, const ClientPair& present, const ProgressFn& progress) {
+                                      const ImportWay& way, const ProgressFn& progress) {
     ClientReplacement replacement(folder);
     ImportOutcome outcome;
     CsvClientReader reader(way.columns, way.emptyLine, [&](const Client& client) {
-        if (outcome.clients == 0) replacement.append(present.clients, present.twins);
+        if (outcome.clients == 0 && way.mode == ImportMode::append) replacement.keep(1);
         replacement.append(client);
         ++outcome.clients;
         if (client.client.Osszegek[0] == 0) ++outcome.withoutAmount;
@@ -97,11 +98,9 @@ ImportOutcome importClients(const QString& path, const ProgramFolder& folder, co
 
 ImportOutcome importClients(QIODevice& csv, const ProgramFolder& folder, const ImportWay& way,
                             const ProgressFn& progress) {
-    const std::optional<ClientPair> present = way.mode == ImportMode::append ? readClientPair(folder) : ClientPair{};
-    if (!present) return {Result::notWritten};
     // Windows-1250 shows at its first accented letter that it isn't UTF-8, so hardly anything is read twice.
-    const std::optional<ImportOutcome> asUtf8 = importAs(Encoding::utf8, csv, folder, way, *present, progress);
-    return asUtf8 ? *asUtf8 : *importAs(Encoding::windows1250, csv, folder, way, *present, progress);
+    const std::optional<ImportOutcome> asUtf8 = importAs(Encoding::utf8, csv, folder, way, progress);
+    return asUtf8 ? *asUtf8 : *importAs(Encoding::windows1250, csv, folder, way, progress);
 }
 
 QStringList faultLines(const ImportOutcome& outcome) {

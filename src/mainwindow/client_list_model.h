@@ -3,10 +3,10 @@
 #include "printing/form_tabs.h"
 #include "records/client_records.h"
 #include "records/file_stamp.h"
+#include "records/page_buffer.h"
 #include "records/program_folder.h"
 
 #include <QAbstractTableModel>
-#include <QByteArray>
 
 #include <optional>
 #include <vector>
@@ -79,7 +79,7 @@ private:
     const ClientRec& client(int recordNumber) const;
     char* writeSortKey(int recordNumber, char* to) const;
 
-    QByteArray clients_;             // all records of nevek1.dat as last read
+    PageBuffer clients_;             // all records of nevek1.dat as last read
     std::optional<FileStamp> stamp_; // of that file, if its next write is sure to show
     Rows order_;                     // record numbers of all clients as they are sorted; empty: to be sorted anew
     Rows rows_;                      // record numbers in screen order

@@ -4,6 +4,9 @@
 
 #include <QFileInfo>
 
+#include <algorithm>
+#include <vector>
+
 // How the pair is replaced as one step. The new files are written whole and flushed under names of their own; then the
 // marker, which holds their sizes, is written: the point of no return. Then
 //     nevek1.dat -> nevek1.regi, nevx.dat -> nevek1.dat, xxkoz.dat -> kozl3sor.dat, figyelt.uj -> figyelt.lst,
@@ -21,7 +24,6 @@
 namespace {
 
 constexpr qsizetype clientLength = sizeof(ClientRec);
-constexpr qsizetype twinLength = sizeof(TwinRec);
 constexpr qsizetype bufferSize = 1 << 20;
 
 struct PairPaths {
@@ -123,21 +125,24 @@ bool finish(const PairPaths& paths) {
 }
 
 // A swap that was refused half-way may hold the only copy of the clients: nothing is read or replaced before it is
-// done.
+// done, nor while somebody holds the files for a moment.
 bool settle(const ProgramFolder& folder) {
     const PairPaths paths = markedPaths(folder);
     if (QFile::exists(paths.marker)) (void)finish(paths);
-    return !QFile::exists(paths.marker);
-}
-
-template<class Rec>
-std::optional<QByteArray> wholeRecords(const ProgramFolder& folder) {
-    QByteArray records;
-    return RecordFile<Rec>(folder).readAllInto(records) ? std::optional(std::move(records)) : std::nullopt;
+    if (QFile::exists(paths.marker)) return false;
+    // Opening makes a missing file, which would pass for the clients of a swap.
+    (void)patiently(
+        [&] { return RecordFile<ClientRec>(folder).isReadable() && RecordFile<TwinRec>(folder).isReadable(); });
+    return true;
 }
 
 QByteArrayView bytesOf(const auto& record) {
     return {reinterpret_cast<const char*>(&record), qsizetype{sizeof record}};
+}
+
+template<class Rec>
+QByteArrayView bytesOf(std::span<Rec> records) {
+    return {reinterpret_cast<const char*>(records.data()), static_cast<qsizetype>(records.size_bytes())};
 }
 
 } // namespace
@@ -156,25 +161,13 @@ std::optional<Client> readClient(const ProgramFolder& folder, qint64 number) {
     return isRead ? std::optional(client) : std::nullopt;
 }
 
-std::optional<ClientPair> readClientPair(const ProgramFolder& folder) {
-    if (!settle(folder)) return std::nullopt;
-    std::optional<QByteArray> clients;
-    std::optional<QByteArray> twins;
-    const bool isRead = patiently([&] {
-        clients = wholeRecords<ClientRec>(folder);
-        twins = wholeRecords<TwinRec>(folder);
-        return clients && twins;
-    });
-    if (!isRead) return std::nullopt;
-    twins->resize(clients->size() / clientLength * twinLength, '\0');
-    return ClientPair{std::move(*clients), std::move(*twins)};
-}
-
 ClientReplacement::ClientReplacement(const ProgramFolder& folder)
     : folder_(folder)
     , clients_(PairPaths(folder).nextClients)
     , twins_(PairPaths(folder).nextTwins) {
     whole_ = settle(folder) && clients_.open() && twins_.open();
+    buffer_.clients.reserve(bufferSize + clientLength);
+    buffer_.twins.reserve(bufferSize);
 }
 
 void ClientReplacement::append(const Client& client) {
@@ -188,12 +181,30 @@ void ClientReplacement::append(QByteArrayView clients, QByteArrayView twins) {
     whole_ = whole_ && clients_.write(clients) && twins_.write(twins);
 }
 
+void ClientReplacement::keep(qint64 first, qint64 last) {
+    flush();
+    if (!whole_) return;
+    RecordFile<ClientRec> clients(folder_);
+    RecordFile<TwinRec> twins(folder_);
+    whole_ = clients.isReadable() && twins.isReadable();
+    last = std::min(last, clients.count());
+    constexpr qint64 pieceLength = bufferSize / clientLength;
+    std::vector<ClientRec> clientPiece(pieceLength);
+    std::vector<TwinRec> twinPiece(pieceLength);
+    for (; whole_ && first <= last; first += pieceLength) {
+        const auto number = static_cast<std::size_t>(std::min(pieceLength, last - first + 1));
+        const std::span clientsRead(clientPiece.data(), number);
+        const std::span twinsRead(twinPiece.data(), number);
+        whole_ = clients.readMany(first, clientsRead) && twins.readMany(first, twinsRead) &&
+                 clients_.write(bytesOf(clientsRead)) && twins_.write(bytesOf(twinsRead));
+    }
+}
+
+// The memory is used again: first use of memory takes longer than the copying.
 void ClientReplacement::flush() {
-    if (buffer_.clients.isEmpty()) return;
-    const ClientPair full = std::exchange(buffer_, {});
-    append(full.clients, full.twins);
-    buffer_.clients.reserve(bufferSize + clientLength);
-    buffer_.twins.reserve(bufferSize);
+    whole_ = whole_ && clients_.write(buffer_.clients) && twins_.write(buffer_.twins);
+    buffer_.clients.resize(0);
+    buffer_.twins.resize(0);
 }
 
 bool ClientReplacement::commit(const CommitExtras& extras) {
@@ -243,14 +254,11 @@ namespace {
 
 // The database with the record of client `number` and its twin replaced by others; by none, if those are empty.
 bool replaceRecords(const ProgramFolder& folder, qint64 number, QByteArrayView client, QByteArrayView twin) {
-    const std::optional<ClientPair> pair = readClientPair(folder);
-    if (number < 1 || number > clientCount(folder) || !pair) return false;
-    const QByteArrayView clients(pair->clients);
-    const QByteArrayView twins(pair->twins);
+    if (!settle(folder) || number < 1 || number > clientCount(folder)) return false;
     ClientReplacement replacement(folder);
-    replacement.append(clients.first((number - 1) * clientLength), twins.first((number - 1) * twinLength));
+    replacement.keep(1, number - 1);
     replacement.append(client, twin);
-    replacement.append(clients.sliced(number * clientLength), twins.sliced(number * twinLength));
+    replacement.keep(number + 1);
     return replacement.commit();
 }
 

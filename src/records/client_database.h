@@ -3,6 +3,7 @@
 #include "records/client_records.h"
 #include "records/record_file.h"
 
+#include <limits>
 #include <optional>
 
 // The client database is a pair of files in step: record k of both is one client. A client exists once its record in
@@ -16,7 +17,7 @@ struct Client {
     TwinRec twin;
 };
 
-// The whole database as the bytes of its records, as many twins as clients.
+// Clients as the bytes of their records, as many twins as clients.
 struct ClientPair {
     QByteArray clients;
     QByteArray twins;
@@ -27,9 +28,6 @@ qint64 clientCount(const ProgramFolder& folder);
 
 // Client `number`, a twin that was never written as zeros. Nothing if there is no such client or it can't be read.
 std::optional<Client> readClient(const ProgramFolder& folder, qint64 number);
-
-// Reads each file once and brings the twins into step. Nothing if a file is there but can't be read.
-std::optional<ClientPair> readClientPair(const ProgramFolder& folder);
 
 // What the importer knows of files that it has done with. It changes in the same step as the pair, so that no file is
 // taken twice after a kill.
@@ -51,6 +49,9 @@ public:
     void append(const Client& client);
     // Raw records, as many twins as clients.
     void append(QByteArrayView clients, QByteArrayView twins);
+    // Clients of the pair that stands: from `first` on up to `last`, as many of them as there are. They pass through a
+    // piece of memory, which doesn't grow with the database.
+    void keep(qint64 first, qint64 last = std::numeric_limits<qint64>::max());
     // Throws UnreadableFile, before anything changed. False: nothing was replaced, the old pair stands (disk full,
     // folder not writable, a file held by another program, the name to keep the old file under taken). To be called
     // once, last.

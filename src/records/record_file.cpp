@@ -42,15 +42,18 @@ bool RawRecordFile::write(qint64 k, const char* record) {
     return false;
 }
 
-bool RawRecordFile::readAllInto(QByteArray& bytes) {
+template<class Bytes>
+bool RawRecordFile::readWholeInto(Bytes& bytes) {
     bytes.resize(0);
     if (!file_.isOpen() || !file_.seek(0)) return false;
     const auto length = static_cast<qsizetype>(count() * recordLength_);
     bytes.resize(length);
     const qint64 done = length > 0 ? file_.read(bytes.data(), length) : 0;
-    bytes.resize(static_cast<qsizetype>(std::max<qint64>(done, 0)));
+    bytes.truncate(static_cast<qsizetype>(std::max<qint64>(done, 0)));
     return done == length;
 }
+template bool RawRecordFile::readWholeInto(QByteArray&);
+template bool RawRecordFile::readWholeInto(PageBuffer&);
 
 QByteArray settings_file::read(const ProgramFolder& folder, const QString& name) {
     QByteArray bytes;

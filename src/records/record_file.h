@@ -2,6 +2,7 @@
 
 #include "records/disk.h"
 #include "records/file_replacement.h"
+#include "records/page_buffer.h"
 #include "records/program_folder.h"
 
 #include <QByteArray>
@@ -46,7 +47,8 @@ public:
     bool write(qint64 k, const char* record);
     // The bytes of all whole records in one read, into `bytes`, whose memory is used again: for large files, first use
     // of memory takes longer than reading. False if not all of them could be read.
-    bool readAllInto(QByteArray& bytes);
+    bool readAllInto(QByteArray& bytes) { return readWholeInto(bytes); }
+    bool readAllInto(PageBuffer& bytes) { return readWholeInto(bytes); }
     // Puts on the disk what was written.
     bool flush() { return flushToDisk(file_); }
     // Takes the records behind the first `count` away.
@@ -54,6 +56,9 @@ public:
     QString name() const { return QFileInfo(file_.fileName()).fileName(); }
 
 private:
+    template<class Bytes>
+    bool readWholeInto(Bytes& bytes);
+
     QFile file_;
     qint64 recordLength_;
 };
@@ -88,7 +93,10 @@ public:
         if (!readAllInto(bytes)) throw UnreadableFile(file_.name());
         return bytes;
     }
-    bool readAllInto(QByteArray& bytes) { return file_.readAllInto(bytes); }
+    template<class Bytes>
+    bool readAllInto(Bytes& bytes) {
+        return file_.readAllInto(bytes);
+    }
     bool flush() { return file_.flush(); }
     // Takes the records behind the first `count` away.
     bool truncate(qint64 count) { return file_.truncate(count); }

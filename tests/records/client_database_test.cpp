@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <map>
+#include <numeric>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -88,6 +89,19 @@ TEST(ClientDatabase, DeleteMovesTheLaterOnesDownInBothFiles) {
         EXPECT_EQ(deleteClient(folder, number), before != after);
         expectPair(folder, pairOf(after));
         expectNoTrace(folder);
+    }
+}
+
+// Larger than the piece of memory that the clients pass through.
+TEST(ClientDatabase, DeleteKeepsEveryOtherClientOfALargeDatabase) {
+    const TestFolder folder;
+    std::vector<int> numbers(9000);
+    std::iota(numbers.begin(), numbers.end(), 1);
+    store(folder, pairOf(numbers));
+    for (const int number : {8998, 3869, 1}) { // from behind, so that numbers name whom they did
+        EXPECT_TRUE(deleteClient(folder, number));
+        numbers.erase(numbers.begin() + number - 1);
+        expectPair(folder, pairOf(numbers));
     }
 }
 

@@ -59,6 +59,18 @@ TEST(RecordFile, ReadsAndWritesWhateverTheFileHolds) {
     }
 }
 
+TEST(RecordFile, IsReadWholeToTheBeginningOfAPage) {
+    const TestFolder folder;
+    PageBuffer bytes;
+    for (const int count : {0, 3, 2, 4000, 4001}) {
+        const QByteArray stored(count * 3, static_cast<char>('a' + count % 7));
+        folder.setBytes(name, stored + "xy"); // an incomplete tail
+        ASSERT_TRUE(RecordFile<Rec>(folder).readAllInto(bytes));
+        EXPECT_EQ(QByteArrayView(bytes.constData(), bytes.size()), stored) << count;
+        EXPECT_EQ(reinterpret_cast<std::uintptr_t>(bytes.constData()) % 4096, 0U);
+    }
+}
+
 TEST(RecordFile, OpeningCreatesAMissingFileEmptyAndUpdateKeepsWhatTheCallerDoesNotOwn) {
     const TestFolder folder;
     EXPECT_EQ(bytesOf(readRecord<Rec>(folder)), QByteArray(3, '\0'));

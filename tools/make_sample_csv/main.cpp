@@ -18,12 +18,14 @@ const Names familyNames = {u"Nagy",     u"Kovács", u"Tóth",   u"Szabó",  u"Ho
                            u"Németh",   u"Farkas", u"Balogh", u"Papp",   u"Lakatos",  u"Takács", u"Juhász", u"Oláh",
                            u"Mészáros", u"Simon",  u"Rácz",   u"Fekete", u"Szilágyi", u"Török",  u"Fehér",  u"Balázs",
                            u"Gál",      u"Szűcs",  u"Kocsis", u"Ősz",    u"Pintér",   u"Fodor",  u"Sipos",  u"Lukács",
-                           u"Gulyás",   u"Bíró",   u"Király", u"Katona", u"Bogdán",   u"Győri",  u"Üveges", u"Somogyi"};
-const Names givenNames = {u"László", u"István",    u"József", u"János",    u"Zoltán",  u"Sándor", u"Gábor",
-                          u"Ferenc", u"Attila",    u"Péter",  u"Tamás",    u"Zsolt",   u"Ödön",   u"Győző",
-                          u"Béla",   u"Örs",       u"Mária",  u"Erzsébet", u"Katalin", u"Ilona",  u"Éva",
-                          u"Anna",   u"Zsuzsanna", u"Margit", u"Judit",    u"Ágnes",   u"Andrea", u"Ildikó",
-                          u"Erika",  u"Krisztina", u"Tünde",  u"Emőke"};
+                           u"Gulyás",   u"Bíró",   u"Király", u"Katona", u"Bogdán",   u"Győri",  u"Üveges", u"Somogyi",
+                           u"Csonka",   u"Dzsida", u"Gyenes", u"Lyka",   u"Nyíri",    u"Széll",  u"Tyukos", u"Zsíros"};
+const Names givenNames = {u"László", u"István",    u"József",  u"János",    u"Zoltán",  u"Sándor",    u"Gábor",
+                          u"Ferenc", u"Attila",    u"Péter",   u"Tamás",    u"Zsolt",   u"Ödön",      u"Győző",
+                          u"Béla",   u"Örs",       u"Mária",   u"Erzsébet", u"Katalin", u"Ilona",     u"Éva",
+                          u"Anna",   u"Zsuzsanna", u"Margit",  u"Judit",    u"Ágnes",   u"Andrea",    u"Ildikó",
+                          u"Erika",  u"Krisztina", u"Tünde",   u"Emőke",    u"Csaba",   u"Dzsenifer", u"György",
+                          u"Lyvia",  u"Nyina",     u"Szilvia", u"Tyra",     u"Zsófia"};
 const Names streets = {
     u"Fő utca",         u"Petőfi Sándor utca", u"Kossuth Lajos utca", u"Rákóczi út", u"Ady Endre utca",
     u"Dózsa György út", u"Arany János utca",   u"Jókai Mór utca",     u"Béke tér",   u"Deák Ferenc utca",
@@ -57,12 +59,21 @@ private:
     std::mt19937 generator_{20240229};
 };
 
+// Of two family names or two given ones, so that most of some ten thousand clients differ.
+QString fullName(Dice& dice) {
+    const bool twoFamilies = dice.below(2) == 0;
+    const QString family = dice.name(familyNames);
+    const QString given = dice.name(givenNames);
+    return twoFamilies ? family + u'-' + dice.name(familyNames) + u' ' + given
+                       : family + u' ' + given + u' ' + dice.name(givenNames);
+}
+
 QString line(Dice& dice, int number) {
     const Town town = dice.from(towns);
     const QString document = dice.name(documents);
     const bool hasDocument = !document.isEmpty();
     const QStringList fields = {
-        QStringLiteral("%1 %2").arg(dice.name(familyNames)).arg(dice.name(givenNames)),
+        fullName(dice),
         dice.below(10) == 0 ? QStringLiteral("és családja") : QString(),
         QStringLiteral("UGY-%1").arg(number, 8, 10, QChar(u'0')),
         QString::fromUtf16(town.name),
