@@ -105,6 +105,7 @@ TEST_F(ClientList, SearchReadsAFileAgainOnlyWhenItHasBeenWritten) {
     store({u"Zita", u"Éva"});
     const QDateTime now = QDateTime::currentDateTime();
     const QDateTime written = now.addSecs(-60);
+    const QDateTime later = now.addSecs(-58); // clocks of disks step by up to two seconds
     setWritten(written);
     model.setSort(0, Qt::AscendingOrder);
     model.search(folder, {});
@@ -116,8 +117,8 @@ TEST_F(ClientList, SearchReadsAFileAgainOnlyWhenItHasBeenWritten) {
         return numbers();
     };
     EXPECT_EQ(storeAs({u"Bea", u"Éva"}, written), "2 1") << "the same size and time";
-    EXPECT_EQ(storeAs({u"Bea", u"Éva"}, written.addMSecs(1)), "1 2");
-    EXPECT_EQ(storeAs({u"Bea", u"Éva", u"Ida"}, written.addMSecs(1)), "1 2 3");
+    EXPECT_EQ(storeAs({u"Bea", u"Éva"}, later), "1 2");
+    EXPECT_EQ(storeAs({u"Bea", u"Éva", u"Ida"}, later), "1 2 3");
     EXPECT_EQ(storeAs({u"Zita"}, now), "2 3 1");
     EXPECT_EQ(storeAs({u"Bea"}, now), "1 2 3") << "a file written just now may be written again at the same time";
     EXPECT_TRUE(QFile::remove(folder.folder().file(QStringLiteral("nevek1.dat"))));

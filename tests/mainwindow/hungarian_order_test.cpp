@@ -49,6 +49,8 @@ TEST(HungarianOrder, AgreesWithTheCollator) {
     collator.setCaseSensitivity(Qt::CaseInsensitive);
     if (collator.compare(u"cukor", u"csap") >= 0 || collator.compare(u"ob", u"öa") >= 0)
         GTEST_SKIP() << "this build of the toolkit knows no Hungarian order";
+    if (collator.compare(u"Kis-Nagy", u"Kisbán") >= 0)
+        GTEST_SKIP() << "this build of the toolkit passes over signs, as Windows does";
     for (const QString& a : inOrder)
         for (const QString& b : inOrder)
             EXPECT_EQ(sign(keyOf(a).compare(keyOf(b))), sign(collator.compare(a, b)))

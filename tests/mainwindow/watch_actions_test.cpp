@@ -143,7 +143,7 @@ TEST_F(WatchWindow, TheTimerStopsWhenWatchingIsOffUntilTheDialogCloses) {
 }
 
 TEST_F(WatchWindow, TheDialogStoresItsFourFieldsByItsButtonAlone) {
-    const QString missing = u"/nincs ilyen/mappa"_s;
+    const QString missing = QDir::rootPath() + u"nincs ilyen/mappa"_s;
     updateRecord<Set>(files, [&](Set& set) { set.txtAutBeolvas.set(missing); });
     const QByteArray before = files.bytes(u"Set.dat"_s);
     const auto box = [](const QWidget& dialog, const char* name) {

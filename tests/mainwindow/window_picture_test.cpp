@@ -64,7 +64,7 @@ TEST_F(WindowPicture, IsFoundDraggedSizedSavedAndPrinted) {
     browse("Command3");
     EXPECT_EQ(window->tabs().envelope.kepFajl, QString());
     browse("Command2");
-    EXPECT_EQ(window->tabs().envelope.kepFajl, path);
+    EXPECT_EQ(window->tabs().envelope.kepFajl, QDir::toNativeSeparators(path));
     EXPECT_EQ(labels(), "  3,5 cm 1,7 cm");
     auto& bar = find<QScrollBar>("HScroll1");
     EXPECT_EQ(bar.maximum(), 8465);

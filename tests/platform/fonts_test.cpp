@@ -55,7 +55,12 @@ TEST(FontBook, sizesAreExactAndManyFontsDoNoHarm) {
         return book.face({u"Arial CE"_s, size}).metrics.horizontalAdvance(u"Őrült űr"_s);
     };
     const double ten = width(10);
+#ifdef Q_OS_WIN
+    const double tolerance = ten / 400; // letters advance by whole units of the paper, which shows at 1 point
+#else
+    const double tolerance = ten / 1000;
+#endif
     for (int size = 1; size < 200; ++size)
-        EXPECT_NEAR(width(static_cast<float>(size)) / size, ten / 10, ten / 1000);
+        EXPECT_NEAR(width(static_cast<float>(size)) / size, ten / 10, tolerance);
     EXPECT_DOUBLE_EQ(width(10), ten);
 }

@@ -61,6 +61,7 @@ void expectAt(const PdfPage& page, const PlacedText& placed) {
 } // namespace
 
 TEST(JobPainter, millimetresReachThePaperAtEveryResolution) {
+    NEEDS_POPPLER();
     const std::vector<PlacedText> placed{
         {0, 0, arial10, u"sarok"_s},        {12.3456F, 20, arial10, u"ezer"_s}, {100.1F, 50.7F, times14, u"százezer"_s},
         {190.5F, 99, arial10, u"szélen"_s}, {60, 33.3F, times14, u"ötvenöt"_s}, {30, -1.5F, arial10, u"felül"_s},
@@ -82,6 +83,7 @@ TEST(JobPainter, millimetresReachThePaperAtEveryResolution) {
 }
 
 TEST(JobPainter, pagesHaveTheSizeOfTheForm) {
+    NEEDS_POPPLER();
     // Orientation, paper, width and height of the form if not 0; width and height of the page.
     const int cases[][6] = {
         {1, 9, 0, 0, 210, 297},      {2, 9, 0, 0, 297, 210},      {1, 27, 0, 0, 110, 220},
@@ -104,6 +106,7 @@ TEST(JobPainter, pagesHaveTheSizeOfTheForm) {
 }
 
 TEST(JobPainter, theMeasuredWidthIsThePrintedOne) {
+    NEEDS_POPPLER();
     QtPrintService service(ProgramFolder(QString()), Devices::pdfOnly);
     const QString text = u"egymillió-kétszázharmincnégyezer-ötszázhatvanhétAVATAROrokűrő"_s;
     for (const Font& font : {arial10, times14, Font{u"Courier New"_s, 8.5F}}) {
@@ -120,6 +123,7 @@ TEST(JobPainter, theMeasuredWidthIsThePrintedOne) {
 }
 
 TEST(JobPainter, textCanBeReadBackAndFontsAreInTheFile) {
+    NEEDS_POPPLER();
     const QString plain = u"Őrült űrkovács Zsófia, affinitás & <fia>"_s, bold = u"ÁRVÍZTŰRŐ TÜKÖRFÚRÓGÉP"_s;
     const QByteArray bytes =
         pdf(jobOf({1, 9, {}}, {PlacedText{10, 20, arial10, plain}, PlacedText{10, 40, times14, bold}}));
@@ -133,6 +137,7 @@ TEST(JobPainter, textCanBeReadBackAndFontsAreInTheFile) {
 }
 
 TEST(JobPainter, onePictureIsKeptOnceForAllPages) {
+    NEEDS_POPPLER();
     QImage picture(40, 20, QImage::Format_RGB32);
     picture.fill(Qt::red);
     PrintJob job;
@@ -148,6 +153,7 @@ TEST(JobPainter, onePictureIsKeptOnceForAllPages) {
 }
 
 TEST(JobPainter, everyPageIsPrintedAndNoOther) {
+    NEEDS_POPPLER();
     PrintJob job;
     for (const QString& word : {u"egy"_s, u"kettő"_s, u"három"_s, u" "_s})
         job.pages.push_back({sidewaysCheck, {PlacedText{10, 10, arial10, word}}});

@@ -4,9 +4,18 @@
 #include <QSizeF>
 #include <QString>
 
+#include <gtest/gtest.h>
+
 #include <vector>
 
 // A PDF as the tools of poppler-utils read it, in millimetres.
+
+// First in a test that reads one.
+#ifdef Q_OS_WIN
+#define NEEDS_POPPLER() GTEST_SKIP() << "the poppler tools are no Windows programs"
+#else
+#define NEEDS_POPPLER()
+#endif
 
 struct PdfWord {
     double left, top, right;

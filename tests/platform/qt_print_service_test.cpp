@@ -55,6 +55,7 @@ TEST_F(QtPrintServiceTest, withoutPrintersThePdfDeviceIsAllAndTheDefault) {
 }
 
 TEST_F(QtPrintServiceTest, aJobBecomesOneFileThatIsTold) {
+    NEEDS_POPPLER();
     service.deliver({}, 0);
     EXPECT_TRUE(files().isEmpty());
     EXPECT_TRUE(service.lastPdf().isEmpty());
