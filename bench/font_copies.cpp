@@ -77,7 +77,7 @@ QString fontConfiguration(int families) {
     const QByteArray font = smallFont();
     for (auto number = QFontDatabase::families().size(); number < families; ++number)
         write(path + QStringLiteral("/%1.ttf").arg(number), renamed(font, QStringLiteral("Próba %1").arg(number)));
-    const QString configuration = path + QStringLiteral("/fonts.conf");
+    QString configuration = path + QStringLiteral("/fonts.conf");
     write(configuration, QStringLiteral("<fontconfig><include>/etc/fonts/fonts.conf</include>"
                                         "<dir>%1</dir><cachedir>%1</cachedir></fontconfig>")
                              .arg(path)
