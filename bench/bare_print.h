@@ -5,6 +5,7 @@
 #include <QFont>
 #include <QPainter>
 
+#include <functional>
 #include <variant>
 
 // The limit of a print: a plain loop that paints the same texts and pictures by a QPdfWriter as it is made.
@@ -15,6 +16,16 @@ public:
     using QtPrintService::QtPrintService;
     PrintJob job;
     bool prints = false;
+    std::function<void()> whileWriting = [] {};
+
+    float textWidth(const Font& font, const QString& text) override {
+        whileWriting();
+        return QtPrintService::textWidth(font, text);
+    }
+    float lineHeight(const Font& font) override {
+        whileWriting();
+        return QtPrintService::lineHeight(font);
+    }
 
     void deliver(const PrintJob& delivered, int printer) override {
         prints ? QtPrintService::deliver(delivered, printer) : void(job = delivered);

@@ -214,8 +214,13 @@ void WorkedWindow::runAndCancel(int permille) {
     if (!sinceCancel_.isValid()) qFatal("the batch was too short to be cancelled");
 }
 
+// The wait cursor, which the toolkit shows as soon as it is set.
 double WorkedWindow::sign() {
+    printing_.whileWriting = [this] {
+        if (signMs_ < 0 && QGuiApplication::overrideCursor() != nullptr) signMs_ = sincePress_.elapsed();
+    };
     runAndCancel(0);
+    printing_.whileWriting = [] {};
     return static_cast<double>(signMs_) / 1000;
 }
 
@@ -229,7 +234,6 @@ bool WorkedWindow::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::Paint) return false;
     ++paints_;
     if (watched != &bar_) return false;
-    if (signMs_ < 0) signMs_ = sincePress_.elapsed();
     if (cancelAt_ < 0 || bar_.value() < cancelAt_) return false;
     if (!sinceCancel_.isValid()) {
         sinceCancel_.start(); // the clerk presses right after this look; the next one sees it

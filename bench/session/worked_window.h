@@ -34,7 +34,7 @@ private:
     double remove();
     double batch();  // of all clients, until the file lies on the disk
     double bare();   // the same texts by the bare loop
-    double sign();   // until the progress of a batch shows
+    double sign();   // until a batch shows the wait cursor
     double cancel(); // of a batch, from a press right after a look at what waits
     double peak();   // MB of memory at the most so far
     double fonts();  // families installed

@@ -9,7 +9,8 @@
 
 namespace {
 
-constexpr int quietMs = 500; // shorter work shows nothing
+constexpr int cursorMs = 50; // shorter work shows nothing
+constexpr int quietMs = 500; // longer work shows how far it is
 constexpr int lookMs = 40;   // between two looks at what waits: a page is often done in less than a millisecond
 
 } // namespace
@@ -20,7 +21,7 @@ WorkInProgress::WorkInProgress(QWidget& window, StatusLine& line) : window_(wind
 
 void WorkInProgress::begin() {
     busy_ = true;
-    shown_ = cancellable_ = cancelled_ = closeWanted_ = false;
+    waiting_ = shown_ = cancellable_ = cancelled_ = closeWanted_ = false;
     sinceFirstStep_.invalidate();
     qApp->installEventFilter(this);
 }
@@ -30,10 +31,8 @@ void WorkInProgress::end() {
     QCoreApplication::processEvents(); // whatever came in meanwhile ends here
     qApp->removeEventFilter(this);
     busy_ = false;
-    if (shown_) {
-        line_.hideProgress();
-        QGuiApplication::restoreOverrideCursor();
-    }
+    if (shown_) line_.hideProgress();
+    if (waiting_) QGuiApplication::restoreOverrideCursor();
     if (closeWanted_) QMetaObject::invokeMethod(&window_, &QWidget::close, Qt::QueuedConnection);
 }
 
@@ -43,8 +42,11 @@ bool WorkInProgress::step(qint64 done, qint64 total, const QString& text, Cancel
         sinceFirstStep_.start();
         sinceLastLook_.start();
     }
+    if (!waiting_ && sinceFirstStep_.elapsed() >= cursorMs) {
+        waiting_ = true;
+        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    }
     if (sinceFirstStep_.elapsed() < quietMs || (shown_ && sinceLastLook_.elapsed() < lookMs)) return !cancelled_;
-    if (!shown_) QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     shown_ = true;
     cancellable_ = cancel == Cancel::possible;
     line_.say(text);

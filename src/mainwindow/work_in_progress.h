@@ -9,8 +9,8 @@ class QWidget;
 // Work that holds the window's thread. While a Turn lives, no click and no key reaches the program, also none that
 // waited in the queue when it ended: a press of a button that came in while pages were printed must not print them
 // again. What reaches a modal box of the work itself is let through. Work that reports its steps is seen by the clerk
-// after half a second: wait cursor, a line of text and a bar, and the window goes on painting itself; "Mégse" and Esc
-// then cancel it.
+// at once by the wait cursor, and after half a second by a line of text and a bar: the window goes on painting itself
+// then, and "Mégse" and Esc cancel it.
 class WorkInProgress : public QObject {
     Q_OBJECT
 public:
@@ -43,7 +43,8 @@ private:
     QWidget& window_;
     StatusLine& line_;
     bool busy_ = false;
-    bool shown_ = false; // bar and wait cursor
+    bool waiting_ = false; // wait cursor
+    bool shown_ = false;   // bar
     bool cancellable_ = false;
     bool cancelled_ = false;
     bool closeWanted_ = false;
