@@ -1,6 +1,5 @@
 #pragma once
 
-#include "records/disk.h"
 #include "records/file_replacement.h"
 #include "records/program_folder.h"
 
@@ -47,10 +46,6 @@ public:
     // The bytes of all whole records in one read, into `bytes`, whose memory is used again: for large files, first use
     // of memory takes longer than reading. False if not all of them could be read.
     bool readAllInto(QByteArray& bytes);
-    // Puts on the disk what was written.
-    bool flush() { return flushToDisk(file_); }
-    // Takes the records behind the first `count` away.
-    bool truncate(qint64 count) { return file_.resize(count * recordLength_); }
     QString name() const { return QFileInfo(file_.fileName()).fileName(); }
 
 private:
@@ -89,9 +84,6 @@ public:
         return bytes;
     }
     bool readAllInto(QByteArray& bytes) { return file_.readAllInto(bytes); }
-    bool flush() { return file_.flush(); }
-    // Takes the records behind the first `count` away.
-    bool truncate(qint64 count) { return file_.truncate(count); }
 
 private:
     RawRecordFile file_;
