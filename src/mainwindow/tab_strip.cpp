@@ -56,8 +56,7 @@ void TabStrip::restore(int stored) {
 void TabStrip::store() {
     const auto number = static_cast<std::int16_t>(currentIndex());
     // The next start would show another tab: nothing to stop a clerk for.
-    (void)updateRecord<Set>(
-        context_.folder, [number](Set& set) { set.SSTab1Tab = number; }, Flush::no);
+    (void)updateField(context_.folder, &Set::SSTab1Tab, I16(number));
     reload();
 }
 
