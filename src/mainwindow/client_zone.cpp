@@ -92,12 +92,15 @@ void ClientZone::cmdBeolvas_Click() {
     fill([this] { model_.cmdBeolvas_Click(folder_); });
 }
 
-// The stamp first: what is written while the file is read counts as a change.
+// The stamp is taken first: what is written while the file is read counts as a change. It holds once the list shows the
+// file: after a failure the old rows stand, whose numbers may name others by now.
 template<class Fill>
 void ClientZone::fill(Fill fill) {
     (void)clientCount(folder_); // a missing file comes into being
-    stamp_ = stampNow();
+    const std::optional<FileStamp> stamp = stampNow();
+    stamp_.reset();
     fill();
+    stamp_ = stamp;
 }
 
 std::optional<FileStamp> ClientZone::stampNow() const {

@@ -4,6 +4,7 @@
 #include "mainwindow/client_pour.h"
 #include "mainwindow/client_zone.h"
 #include "mainwindow/envelope_label_rules.h"
+#include "mainwindow/guarded.h"
 #include "mainwindow/label_cells.h"
 #include "mainwindow/main_menu.h"
 #include "mainwindow/posting_list_actions.h"
@@ -180,7 +181,11 @@ void frmTarlimo::searchList(const QString& text, int keep) {
 }
 
 void frmTarlimo::clientsChanged(const ClientsChanged& change) {
-    followClients(tabs_.label, change, folder_);
+    afterwards([&] { followClients(change); });
+}
+
+void frmTarlimo::followClients(const ClientsChanged& change) {
+    ::followClients(tabs_.label, change, folder_);
     entry_.clientsChanged(change);
     if (change.movesNumbers()) {
         selected_ = {}; // no held number names the client that the window still shows
@@ -216,6 +221,7 @@ void frmTarlimo::closeEvent(QCloseEvent* event) {
 }
 
 bool frmTarlimo::storeState() {
-    storeArrangement(folder_, *this, *splitter_, *clients_);
-    return storeWindow(folder_, tabs_, {clients_->isAscending(), panel_->feed(), panel_->isSystemDefault()});
+    const bool arranged = storeArrangement(folder_, *this, *splitter_, *clients_);
+    return storeWindow(folder_, tabs_, {clients_->isAscending(), panel_->feed(), panel_->isSystemDefault()}) &&
+           arranged;
 }

@@ -48,6 +48,7 @@ private:
     void searchList(const QString& text, int keep);
     // The one place where those who hold or show clients follow a change of the database.
     void clientsChanged(const ClientsChanged& change);
+    void followClients(const ClientsChanged& change);
 
     void showSetup();
     void askAndClose();
