@@ -69,6 +69,12 @@ std::function<Work(Stage&)> import(ImportMode mode) {
 
 TickOutcome tick(const Stage& stage) { return watchTick(stage.folder(), QDateTime::currentDateTime().addSecs(3600)); }
 
+// The last one forgets the file that the one before it has deleted.
+void someTicks(Stage& stage) {
+    for (int i = 0; i < 3; ++i)
+        (void)tick(stage);
+}
+
 Work watchedFolder(Stage& stage) {
     QDir(stage.folder().folder().path()).mkdir(u"be"_s);
     stage.folder().setBytes(u"be/uj.csv"_s, csvOf("Uj"));
@@ -110,11 +116,16 @@ std::function<Work(Stage&)> exportTo(const QByteArray& present) {
     };
 }
 
-// A press of a button: nothing told is success.
+// Nothing told is success, and a list that could not be shown behind it no failure.
+Told toldBy(const ScriptedPrompts& prompts) {
+    return toldIf(std::all_of(prompts.told.begin(), prompts.told.end(),
+                              [](const Message& message) { return message.text.startsWith(u"A művelet megtörtént"); }));
+}
+
 Told pressed(ScriptedPrompts& prompts, QAbstractButton& button) {
     prompts.answers.push_back(Answer::yes);
     guarded(prompts, [&] { button.click(); });
-    return toldIf(prompts.told.empty());
+    return toldBy(prompts);
 }
 
 std::function<Work(Stage&)> setupPage(int setupOldal, const char* button) {
@@ -158,7 +169,7 @@ Work tabClick(Stage& stage) {
     openWindow(stage);
     return [&stage] {
         guarded(stage.prompts, [&] { stage.find<QTabWidget>("SSTab1").setCurrentIndex(3); });
-        return toldIf(stage.prompts.told.empty());
+        return toldBy(stage.prompts);
     };
 }
 
@@ -168,10 +179,9 @@ Work exitProgram(Stage& stage) {
     stage.window->resize(stage.window->size() - QSize(50, 50));
     stage.find<QAbstractButton>("chkListaSorren").toggle();
     stage.find<QAbstractButton>("chkFKFNev").toggle();
-    // The flag is the window's own once the view has heard of it.
     return [&stage] {
         guarded(stage.prompts, [&] { stage.window->close(); });
-        return toldIf(stage.prompts.told.empty());
+        return toldBy(stage.prompts);
     };
 }
 
@@ -183,7 +193,7 @@ Work startProgram(Stage& stage) {
             const ProgramLock lock(stage.folder());
             stage.open();
         });
-        return toldIf(stage.prompts.told.empty());
+        return toldBy(stage.prompts);
     };
 }
 
@@ -210,13 +220,12 @@ const std::vector<Action>& actions() {
         {"wipe", onClients([](const ProgramFolder& folder) { return wipeClients(folder); })},
         {"importOverwrite", import(ImportMode::overwrite)},
         {"importAppend", import(ImportMode::append)},
-        {.name = "tick", .ready = watchedFolder, .again = [](Stage& stage) { (void)tick(stage); }},
+        {.name = "tick", .ready = watchedFolder, .again = someTicks},
         {"convert", olderDatabase},
         {"recovery", interruptedCommit},
         {.name = "exportNew", .ready = exportTo({}), .writtenInPlace = "ki.csv"},
         {.name = "exportOver", .ready = exportTo(QByteArray(500, 'x')), .writtenInPlace = "ki.csv"},
         {"yellowCheckPage", setupPage(0, "Command1")},
-        {"yellowCheckDefaults", setupPage(0, "Command2")},
         {"returnReceiptPage", setupPage(1, "cmdTertiMentes")},
         {"postingReceiptPage", setupPage(2, "cmdFeladovevenyMentes")},
         {"envelopePage", setupPage(3, "cmdBoritekMeretSave_0")},

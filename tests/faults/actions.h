@@ -46,7 +46,7 @@ struct Action {
     std::string name;
     // Lays out the files and opens what it takes, so that only the action itself is left to do.
     std::function<Work(Stage&)> ready;
-    std::size_t leastCalls = 10;         // a guard against an interception that isn't reached
+    std::size_t leastCalls = 8;          // a guard against an interception that isn't reached
     bool changesFiles = true;            // if all goes well
     bool tellsFailures = true;           // a tab number that isn't kept stops no clerk
     bool storesSeveral = false;          // files that are each a whole of their own, and says so
