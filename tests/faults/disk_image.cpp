@@ -4,7 +4,6 @@
 #include <fstream>
 #include <iterator>
 #include <set>
-#include <utility>
 
 namespace fs = std::filesystem;
 
@@ -90,9 +89,7 @@ public:
             pendingBytes_[step.file].push_back(&step);
             break;
         case Kind::flushFile:
-            for (const DiskStep* pending : std::exchange(pendingBytes_[step.file], {}))
-                carryOut(*pending, fileAt(step.file).bytes, Unflushed::there);
-            pendingBytes_.erase(step.file);
+            flush(step.file);
             break;
         case Kind::flushFolder:
             std::erase_if(pendingNames_, [&](const DiskStep* pending) {
@@ -102,6 +99,14 @@ public:
             });
             break;
         }
+    }
+
+    DiskImage withEverything() {
+        for (const auto& [file, steps] : std::map(pendingBytes_))
+            flush(file);
+        for (const DiskStep* step : pendingNames_)
+            rename(*step, names_);
+        return image(names_);
     }
 
     void forEachState(const std::function<void(const DiskImage&)>& visit) {
@@ -117,6 +122,20 @@ private:
     StoredFile& fileAt(int number) {
         if (number >= static_cast<int>(files_.size())) files_.resize(static_cast<std::size_t>(number) + 1);
         return files_[static_cast<std::size_t>(number)];
+    }
+
+    void flush(int file) {
+        for (const DiskStep* pending : pendingBytes_[file])
+            carryOut(*pending, fileAt(file).bytes, Unflushed::there);
+        pendingBytes_.erase(file);
+    }
+
+    // A name in a folder that isn't there isn't either.
+    DiskImage image(const std::map<std::string, int>& names) {
+        DiskImage image;
+        for (const auto& [path, file] : names)
+            if (folderOf(path).empty() || names.contains(folderOf(path))) image[path] = fileAt(file);
+        return image;
     }
 
     static void rename(const DiskStep& step, std::map<std::string, int>& names) {
@@ -156,17 +175,7 @@ private:
     // Each file with unflushed bytes takes each fate, whatever the others'.
     void forEachFate(std::size_t decided, const std::map<std::string, int>& names,
                      const std::function<void(const DiskImage&)>& visit) {
-        if (decided == pendingBytes_.size()) {
-            DiskImage image;
-            for (const auto& [path, file] : names)
-                image[path] = fileAt(file);
-            // A name in a folder that isn't there isn't either.
-            std::erase_if(image, [&](const auto& entry) {
-                const std::string folder = folderOf(entry.first);
-                return !folder.empty() && !names.contains(folder);
-            });
-            return visit(image);
-        }
+        if (decided == pendingBytes_.size()) return visit(image(names));
         const auto& [file, steps] = *std::next(pendingBytes_.begin(), static_cast<std::ptrdiff_t>(decided));
         const std::string flushed = fileAt(file).bytes;
         for (const Unflushed fate : everyFate) {
@@ -184,6 +193,13 @@ private:
 };
 
 } // namespace
+
+DiskImage imageAfter(const DiskImage& before, const std::vector<DiskStep>& steps) {
+    Disk disk(before);
+    for (const DiskStep& step : steps)
+        disk.take(step);
+    return disk.withEverything();
+}
 
 void forEachPowerFailure(const DiskImage& before, const std::vector<DiskStep>& steps,
                          const std::function<void(const DiskImage&)>& visit) {

@@ -38,6 +38,9 @@ struct DiskStep {
     std::string folder{}; // with '/' at its end; empty for the top one
 };
 
+// What the steps come to.
+DiskImage imageAfter(const DiskImage& before, const std::vector<DiskStep>& steps);
+
 // What a disk may hold when its power fails in the middle of these steps, each image once. Whatever was flushed is
 // there. Of the changes of names that weren't, any three or fewer have come through, in any order, or are missing. Of a
 // file, what wasn't flushed is there, is missing, or is zeros where the file has grown.

@@ -135,6 +135,8 @@ public:
                 work_();
                 steps = interception.steps();
             }
+            if (!isSame(imageAfter(before_, steps), readImage(stage_.path())))
+                return Report{.told = told(Told::done), .wrong = "a call changes files that isn't intercepted"};
             std::size_t count = 0;
             forEachPowerFailure(before_, steps, [&](const DiskImage& /*state*/) { ++count; });
             const std::vector<std::size_t> chosen = spread(count, powerSample);

@@ -8,7 +8,6 @@
 #include <map>
 #include <memory>
 #include <sys/stat.h>
-#include <sys/uio.h>
 #include <unistd.h>
 
 namespace {
@@ -112,45 +111,13 @@ int openPath(const char* path, int flags, mode_t mode) {
     return openFile(path, flags, mode);
 }
 
-mode_t modeOf(int flags, va_list arguments) {
-    return (flags & (O_CREAT | O_TMPFILE)) != 0 ? static_cast<mode_t>(va_arg(arguments, int)) : mode_t{0};
-}
-
-// `offset` below 0: where the file stands.
-template<class CarryOut>
-ssize_t writeBytes(int descriptor, const char* bytes, std::size_t length, off_t offset, CarryOut carryOut) {
-    const State::Handle* handle = state ? state->handle(descriptor) : nullptr;
-    if (handle == nullptr) return carryOut(length);
-    if (offset < 0) offset = lseek(descriptor, 0, SEEK_CUR);
-    if (isBefallen(Call::write)) {
-        if (state->fault != Fault::shortWrite || length < 2) return -1;
-        length /= 2;
-    }
-    const ssize_t written = carryOut(length);
-    if (written > 0)
-        state->note({.kind = DiskStep::Kind::write,
-                     .file = handle->file,
-                     .offset = static_cast<std::size_t>(offset),
-                     .bytes = std::string(bytes, static_cast<std::size_t>(written))});
-    return written;
-}
-
-template<class CarryOut>
-auto readBytes(int descriptor, CarryOut carryOut) -> decltype(carryOut()) {
-    if (state && state->handle(descriptor) != nullptr && isBefallen(Call::read)) return -1;
-    return carryOut();
-}
-
-template<class CarryOut>
-int flushDescriptor(int descriptor, CarryOut carryOut) {
-    const State::Handle* handle = state ? state->handle(descriptor) : nullptr;
-    if (handle != nullptr && isBefallen(Call::flush)) return -1;
-    // Not carried out: the steps of the journal are the disk.
-    if (handle == nullptr) return carryOut();
-    if (handle->file == DiskStep::noFile)
-        state->note({.kind = DiskStep::Kind::flushFolder, .folder = handle->path});
-    else
-        state->note({.kind = DiskStep::Kind::flushFile, .file = handle->file});
+// Noted alone: the steps of the journal are the disk.
+int flush(const State::Handle& handle) {
+    if (isBefallen(Call::flush)) return -1;
+    const bool isFolder = handle.file == DiskStep::noFile;
+    state->note({.kind = isFolder ? DiskStep::Kind::flushFolder : DiskStep::Kind::flushFile,
+                 .file = handle.file,
+                 .folder = handle.path});
     return 0;
 }
 
@@ -164,29 +131,29 @@ int resizeFile(int descriptor, off_t length, CarryOut carryOut) {
     return result;
 }
 
-// `keepsFrom`: a further name for the same file.
 template<class CarryOut>
-int renamePath(const char* from, const char* to, bool keepsFrom, CarryOut carryOut) {
+int renamePath(const char* from, const char* to, CarryOut carryOut) {
     const char* fromWithin = state ? state->within(from) : nullptr;
     const char* toWithin = state ? state->within(to) : nullptr;
     if (fromWithin == nullptr || toWithin == nullptr) return carryOut();
     if (isBefallen(Call::rename)) return -1;
     const int result = carryOut();
     if (result != 0) return result;
-    const int file = state->files[fromWithin];
-    keepsFrom ? state->name({{toWithin, file}}) : state->name({{fromWithin, DiskStep::noFile}, {toWithin, file}});
+    state->name({{fromWithin, DiskStep::noFile}, {toWithin, state->files[fromWithin]}});
     return 0;
 }
 
 template<class CarryOut>
-int changeName(const char* path, Call call, bool isFolder, bool isMade, CarryOut carryOut) {
+int changeName(const char* path, Call call, CarryOut carryOut) {
     const char* within = state ? state->within(path) : nullptr;
     if (within == nullptr) return carryOut();
     if (isBefallen(call)) return -1;
     const int result = carryOut();
     if (result != 0) return result;
-    const std::string name = std::string(within) + (isFolder ? "/" : "");
-    state->name({{name, isMade ? state->newFile(name) : DiskStep::noFile}});
+    if (call == Call::folder)
+        state->name({{std::string(within) + '/', state->newFile(std::string(within) + '/')}});
+    else
+        state->name({{within, DiskStep::noFile}});
     return 0;
 }
 
@@ -236,60 +203,42 @@ extern "C" {
     int name(const char* path, int flags, ...) {                                                                       \
         va_list arguments;                                                                                             \
         va_start(arguments, flags);                                                                                    \
-        const mode_t mode = modeOf(flags, arguments);                                                                  \
+        const mode_t mode = (flags & O_CREAT) != 0 ? static_cast<mode_t>(va_arg(arguments, int)) : mode_t{0};          \
         va_end(arguments);                                                                                             \
         return openPath(path, flags, mode);                                                                            \
     }
 OPEN(open)
 OPEN(open64)
 
-// None of our own goes by a folder's handle.
-#define OPENAT(name)                                                                                                   \
-    int name(int folder, const char* path, int flags, ...) {                                                           \
-        va_list arguments;                                                                                             \
-        va_start(arguments, flags);                                                                                    \
-        const mode_t mode = modeOf(flags, arguments);                                                                  \
-        va_end(arguments);                                                                                             \
-        static const auto next = REAL(name);                                                                           \
-        return *path == '/' ? openPath(path, flags, mode) : next(folder, path, flags, mode);                           \
-    }
-OPENAT(openat)
-OPENAT(openat64)
-
-int creat(const char* path, mode_t mode) { return openPath(path, O_CREAT | O_WRONLY | O_TRUNC, mode); }
-
 ssize_t read(int descriptor, void* bytes, size_t length) {
     static const auto next = REAL(read);
-    return readBytes(descriptor, [&] { return next(descriptor, bytes, length); });
+    if (state && state->handle(descriptor) != nullptr && isBefallen(Call::read)) return -1;
+    return next(descriptor, bytes, length);
 }
+
 ssize_t write(int descriptor, const void* bytes, size_t length) {
     static const auto next = REAL(write);
-    return writeBytes(descriptor, static_cast<const char*>(bytes), length, -1,
-                      [&](std::size_t most) { return next(descriptor, bytes, most); });
-}
-#define AT_OFFSET(reader, writer)                                                                                      \
-    ssize_t reader(int descriptor, void* bytes, size_t length, off_t offset) {                                         \
-        static const auto next = REAL(reader);                                                                         \
-        return readBytes(descriptor, [&] { return next(descriptor, bytes, length, offset); });                         \
-    }                                                                                                                  \
-    ssize_t writer(int descriptor, const void* bytes, size_t length, off_t offset) {                                   \
-        static const auto next = REAL(writer);                                                                         \
-        return writeBytes(descriptor, static_cast<const char*>(bytes), length, offset,                                 \
-                          [&](std::size_t most) { return next(descriptor, bytes, most, offset); });                    \
+    const State::Handle* handle = state ? state->handle(descriptor) : nullptr;
+    if (handle == nullptr) return next(descriptor, bytes, length);
+    if (isBefallen(Call::write)) {
+        if (state->fault != Fault::shortWrite || length < 2) return -1;
+        length /= 2;
     }
-AT_OFFSET(pread, pwrite)
-AT_OFFSET(pread64, pwrite64)
-
-ssize_t writev(int descriptor, const iovec* pieces, int count) {
-    static const auto next = REAL(writev);
-    if (!state || state->handle(descriptor) == nullptr) return next(descriptor, pieces, count);
-    return write(descriptor, pieces[0].iov_base, pieces[0].iov_len); // a short write, which all must bear
+    const auto offset = static_cast<std::size_t>(lseek(descriptor, 0, SEEK_CUR));
+    const ssize_t written = next(descriptor, bytes, length);
+    if (written > 0)
+        state->note({.kind = DiskStep::Kind::write,
+                     .file = handle->file,
+                     .offset = offset,
+                     .bytes = {static_cast<const char*>(bytes), static_cast<std::size_t>(written)}});
+    return written;
 }
 
 #define FLUSH(name)                                                                                                    \
     int name(int descriptor) {                                                                                         \
         static const auto next = REAL(name);                                                                           \
-        return flushDescriptor(descriptor, [&] { return next(descriptor); });                                          \
+        const State::Handle* handle = state ? state->handle(descriptor) : nullptr;                                     \
+        return handle == nullptr ? next(descriptor) : flush(*handle);                                                  \
     }
 FLUSH(fsync)
 FLUSH(fdatasync)
@@ -316,27 +265,19 @@ RESIZE(ftruncate64)
 
 int rename(const char* from, const char* to) noexcept {
     static const auto next = REAL(rename);
-    return renamePath(from, to, false, [&] { return next(from, to); });
+    return renamePath(from, to, [&] { return next(from, to); });
 }
 int renameat2(int fromFolder, const char* from, int toFolder, const char* to, unsigned flags) noexcept {
     static const auto next = REAL(renameat2);
-    return renamePath(from, to, false, [&] { return next(fromFolder, from, toFolder, to, flags); });
-}
-int link(const char* from, const char* to) noexcept {
-    static const auto next = REAL(link);
-    return renamePath(from, to, true, [&] { return next(from, to); });
+    return renamePath(from, to, [&] { return next(fromFolder, from, toFolder, to, flags); });
 }
 int unlink(const char* path) noexcept {
     static const auto next = REAL(unlink);
-    return changeName(path, Call::unlink, false, false, [&] { return next(path); });
-}
-int rmdir(const char* path) noexcept {
-    static const auto next = REAL(rmdir);
-    return changeName(path, Call::unlink, true, false, [&] { return next(path); });
+    return changeName(path, Call::unlink, [&] { return next(path); });
 }
 int mkdir(const char* path, mode_t mode) noexcept {
     static const auto next = REAL(mkdir);
-    return changeName(path, Call::folder, true, true, [&] { return next(path, mode); });
+    return changeName(path, Call::folder, [&] { return next(path, mode); });
 }
 
 } // extern "C"
