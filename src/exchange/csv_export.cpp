@@ -1,6 +1,7 @@
 #include "exchange/csv_export.h"
 
 #include "records/client_database.h"
+#include "records/disk.h"
 
 #include <QFileInfo>
 

@@ -3,6 +3,7 @@
 #include "exchange/import_notes.h"
 #include "exchange/line_count.h"
 #include "records/client_database.h"
+#include "records/disk.h"
 #include "records/file_replacement.h"
 
 #include <QDirIterator>
@@ -72,8 +73,10 @@ public:
 
 private:
     bool storeNotes() const { return replaceFile(folder_.file(QString::fromLatin1(importNotesFile)), notes_.bytes()); }
+    // Once they are gone for good: a file that a power failure brings back must still be known. What can't be stored
+    // now is at the next tick.
     void forgetGoneFiles() {
-        if (notes_.dropStale()) (void)storeNotes(); // or at the next tick
+        if (notes_.dropStale() && flushFolder(watch_.folder)) (void)storeNotes();
     }
 
     TickOutcome about(const FileVersion& file) const {

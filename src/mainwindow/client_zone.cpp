@@ -95,10 +95,11 @@ void ClientZone::cmdBeolvas_Click() {
     fill([this] { model_.cmdBeolvas_Click(folder_); });
 }
 
-// The stamp first: what is written while the file is read counts as a change.
+// The stamp is taken first: what is written while the file is read counts as a change. It holds once the list shows the
+// file: after a failure no number of the rows counts.
 template<class Fill>
 void ClientZone::fill(Fill fill) {
-    stamp_.reset(); // no number of the rows counts until they are read
+    stamp_.reset();
     const bool filled = readable([&] {
         (void)clientCount(folder_); // a missing file comes into being
         const std::optional<FileStamp> stamp = stampNow();

@@ -4,6 +4,7 @@
 #include "mainwindow/client_pour.h"
 #include "mainwindow/client_zone.h"
 #include "mainwindow/envelope_label_rules.h"
+#include "mainwindow/guarded.h"
 #include "mainwindow/label_cells.h"
 #include "mainwindow/main_menu.h"
 #include "mainwindow/posting_list_actions.h"
@@ -181,18 +182,20 @@ void frmTarlimo::searchList(const QString& text, int keep) {
 }
 
 void frmTarlimo::clientsChanged(const ClientsChanged& change) {
-    followClients(tabs_.label, change, folder_);
-    entry_.clientsChanged(change);
-    if (change.movesNumbers()) {
-        selected_ = {}; // no held number names the client that the window still shows
-        clients_->enableClientButtons(false);
-    } else if (change.what == ClientsChanged::modified && change.number == selected_.rekordszam) {
-        selected_.record = readClient(folder_, change.number).value_or(selected_.record);
-        pourModified(tabs_, selected_.record, {readRecord<Set>(folder_), readRecord<SetRcsekk>(folder_)});
-    }
-    change.movesNumbers() ? clients_->Beolvas() : clients_->refresh(selected_.rekordszam);
-    applyButtonRule();
-    SSTab1_->showValues();
+    afterwards([&] {
+        followClients(tabs_.label, change, folder_);
+        entry_.clientsChanged(change);
+        if (change.movesNumbers()) {
+            selected_ = {}; // no held number names the client that the window still shows
+            clients_->enableClientButtons(false);
+        } else if (change.what == ClientsChanged::modified && change.number == selected_.rekordszam) {
+            selected_.record = readClient(folder_, change.number).value_or(selected_.record);
+            pourModified(tabs_, selected_.record, {readRecord<Set>(folder_), readRecord<SetRcsekk>(folder_)});
+        }
+        change.movesNumbers() ? clients_->Beolvas() : clients_->refresh(selected_.rekordszam);
+        applyButtonRule();
+        SSTab1_->showValues();
+    });
 }
 
 void frmTarlimo::showSetup() {
@@ -217,6 +220,7 @@ void frmTarlimo::closeEvent(QCloseEvent* event) {
 }
 
 bool frmTarlimo::storeState() {
-    storeArrangement(folder_, *this, *splitter_, *clients_);
-    return storeWindow(folder_, tabs_, {clients_->isAscending(), panel_->feed(), panel_->isSystemDefault()});
+    const bool arranged = storeArrangement(folder_, *this, *splitter_, *clients_);
+    return storeWindow(folder_, tabs_, {clients_->isAscending(), panel_->feed(), panel_->isSystemDefault()}) &&
+           arranged;
 }

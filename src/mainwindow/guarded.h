@@ -8,11 +8,30 @@
 // An action of the clerk that a file stopped which can't be read, or memory that ran out, ends here: with a message
 // instead of a wrong result. What it has begun is undone by its own scopes.
 
+// A file that could not be read behind an action that is done.
+class UnreadableAfterwards : public UnreadableFile {
+public:
+    using UnreadableFile::UnreadableFile;
+};
+
+// Shows what an action has changed; that it can't must not be told as a failure of the action.
+template<class Show>
+void afterwards(Show&& show) {
+    try {
+        show();
+    } catch (const UnreadableFile& file) {
+        throw UnreadableAfterwards(file.name());
+    }
+}
+
 // What stopped the action, in words; empty if it went through.
 template<class Action>
 QString troubleOf(Action&& action) {
     try {
         action();
+    } catch (const UnreadableAfterwards& file) {
+        return QStringLiteral("A művelet megtörtént, de a lista nem frissült: a(z) %1 fájl nem olvasható.")
+            .arg(file.name());
     } catch (const UnreadableFile& file) {
         return QStringLiteral("A(z) %1 fájl nem olvasható, a művelet nem indult el.").arg(file.name());
     } catch (const std::bad_alloc&) {

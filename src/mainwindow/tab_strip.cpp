@@ -55,8 +55,7 @@ void TabStrip::restore(int stored) {
 
 void TabStrip::store() {
     const auto number = static_cast<std::int16_t>(currentIndex());
-    const bool stored = updateRecord<Set>(
-        context_.folder, [number](Set& set) { set.SSTab1Tab = number; }, Flush::no);
+    const bool stored = updateField(context_.folder, &Set::SSTab1Tab, I16(number));
     // Nothing to stop a clerk for: the next start shows another tab.
     if (!stored)
         Q_EMIT said(QStringLiteral("A program mappája vagy a Set.dat nem írható, a beállítások nem maradnak meg."));

@@ -3,6 +3,7 @@
 #include "mainwindow/client_zone.h"
 #include "mainwindow/print_panel.h"
 #include "mainwindow/tab_strip.h"
+#include "records/file_replacement.h"
 
 #include <QGuiApplication>
 #include <QHBoxLayout>
@@ -24,6 +25,10 @@ constexpr auto splitterKey = "ablak/osztas"_L1;
 constexpr auto columnsKey = "lista/oszlopok"_L1;
 
 QString path(const ProgramFolder& folder) { return folder.file(u"ablak.ini"_s); }
+
+QByteArray bytesIn(const QSettings& stored, QLatin1StringView key) {
+    return QByteArray::fromHex(stored.value(key).toByteArray());
+}
 
 void centre(QWidget& window) {
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry().marginsRemoved(windowFrame);
@@ -55,8 +60,8 @@ QSplitter* arrange(const WindowParts& parts) {
 
 void restoreArrangement(const ProgramFolder& folder, QWidget& window, QSplitter& splitter, ClientZone& clients) {
     const QSettings stored(path(folder), QSettings::IniFormat);
-    if (!window.restoreGeometry(stored.value(geometryKey).toByteArray())) centre(window);
-    if (!splitter.restoreState(stored.value(splitterKey).toByteArray()))
+    if (!window.restoreGeometry(bytesIn(stored, geometryKey))) centre(window);
+    if (!splitter.restoreState(bytesIn(stored, splitterKey)))
         splitter.setSizes({formHeight, window.height() - formHeight});
     const int listWidth = qMax(400, window.width() - 290); // beside its buttons and the record numbers
     QList<int> widths{qMin(353, listWidth * 2 / 5), qMin(470, listWidth / 2)}; // of the design: 5292 and 7056 twips
@@ -66,11 +71,12 @@ void restoreArrangement(const ProgramFolder& folder, QWidget& window, QSplitter&
     clients.setColumnWidths(widths);
 }
 
-void storeArrangement(const ProgramFolder& folder, const QWidget& window, const QSplitter& splitter,
+bool storeArrangement(const ProgramFolder& folder, const QWidget& window, const QSplitter& splitter,
                       const ClientZone& clients) {
     const QList<int> widths = clients.columnWidths();
-    QSettings stored(path(folder), QSettings::IniFormat);
-    stored.setValue(geometryKey, window.saveGeometry());
-    stored.setValue(splitterKey, splitter.saveState());
-    stored.setValue(columnsKey, QVariantList(widths.begin(), widths.end()));
+    // Not by the toolkit's settings, whose lock and new file outlive a kill.
+    const QByteArray text =
+        "[ablak]\nhely=" + window.saveGeometry().toHex() + "\nosztas=" + splitter.saveState().toHex() +
+        "\n\n[lista]\noszlopok=" + QByteArray::number(widths[0]) + ", " + QByteArray::number(widths[1]) + '\n';
+    return replaceFile(path(folder), text);
 }

@@ -24,5 +24,6 @@ QSplitter* arrange(const WindowParts& parts);
 // A missing or damaged file gives the design: the form at its natural size, on the middle of the screen. Call it when
 // the layouts know what is hidden: a size set earlier would be pushed up by it.
 void restoreArrangement(const ProgramFolder& folder, QWidget& window, QSplitter& splitter, ClientZone& clients);
-void storeArrangement(const ProgramFolder& folder, const QWidget& window, const QSplitter& splitter,
-                      const ClientZone& clients);
+// False: it could not be written.
+[[nodiscard]] bool storeArrangement(const ProgramFolder& folder, const QWidget& window, const QSplitter& splitter,
+                                    const ClientZone& clients);

@@ -16,25 +16,34 @@ QByteArray readWhole(const ProgramFolder& folder, const Catalogue& catalogue) {
     return entries;
 }
 
-} // namespace
-
-std::vector<CatalogueEntry> readEntries(const ProgramFolder& folder, const Catalogue& catalogue) {
-    const QByteArray bytes = readWhole(folder, catalogue);
+std::vector<CatalogueEntry> entriesOf(const QByteArray& bytes) {
     std::vector<CatalogueEntry> entries(static_cast<std::size_t>(bytes.size() / entryLength));
     if (!entries.empty())
         std::memcpy(static_cast<void*>(entries.data()), bytes.constData(), entries.size() * sizeof(CatalogueEntry));
     return entries;
 }
 
-bool appendEntry(const ProgramFolder& folder, const Catalogue& catalogue, QStringView text) {
-    const CatalogueEntry entry{text};
-    return replaceFile(folder.file(nameOf(catalogue)),
-                       readWhole(folder, catalogue) + QByteArray(entry.Szoveg.data(), entryLength));
+std::optional<std::vector<CatalogueEntry>> replaced(const ProgramFolder& folder, const Catalogue& catalogue,
+                                                    const QByteArray& bytes) {
+    if (!replaceFile(folder.file(nameOf(catalogue)), bytes)) return std::nullopt;
+    return entriesOf(bytes);
 }
 
-bool removeEntry(const ProgramFolder& folder, const Catalogue& catalogue, qint64 number) {
+} // namespace
+
+std::vector<CatalogueEntry> readEntries(const ProgramFolder& folder, const Catalogue& catalogue) {
+    return entriesOf(readWhole(folder, catalogue));
+}
+
+std::optional<std::vector<CatalogueEntry>> appendEntry(const ProgramFolder& folder, const Catalogue& catalogue,
+                                                       QStringView text) {
+    const CatalogueEntry entry{text};
+    return replaced(folder, catalogue, readWhole(folder, catalogue) + QByteArray(entry.Szoveg.data(), entryLength));
+}
+
+std::optional<std::vector<CatalogueEntry>> removeEntry(const ProgramFolder& folder, const Catalogue& catalogue,
+                                                       qint64 number) {
     QByteArray entries = readWhole(folder, catalogue);
-    if (number < 1 || number > entries.size() / entryLength) return false;
-    entries.remove((number - 1) * entryLength, entryLength);
-    return replaceFile(folder.file(nameOf(catalogue)), entries);
+    if (number < 1 || number > entries.size() / entryLength) return std::nullopt;
+    return replaced(folder, catalogue, entries.remove((number - 1) * entryLength, entryLength));
 }

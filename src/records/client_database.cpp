@@ -10,13 +10,14 @@
 // How the pair is replaced as one step. The new files are written whole and flushed under names of their own; then the
 // marker, which holds their sizes, is written: the point of no return. Then
 //     nevek1.dat -> nevek1.regi, nevx.dat -> nevek1.dat, xxkoz.dat -> kozl3sor.dat, figyelt.uj -> figyelt.lst,
-// nevek1.regi goes, and the marker after it. A name to keep the old clients under takes the place of nevek1.regi,
+// nevek1.regi goes, and the marker last. A name to keep the old clients under takes the place of nevek1.regi,
 // stands in the marker, and stays. A start that finds the marker goes on from wherever a kill came. Without a marker
 // new files are never used, whoever left them.
 //
 // Renames reach the disk in any order, so the folder is flushed where one step relies on another: the new files are
-// there before the marker, the marker before the first rename, the last rename before the marker goes, and its going
-// before the next commit writes files that it would speak for.
+// there before the marker, the marker before the first rename, the old clients under their other name before the new
+// ones take theirs, all of it before the marker goes, and its going before the next commit writes files that it would
+// speak for.
 //
 // nevek1.regi is there for a rename that the system refuses half-way (Windows does while another program has the file
 // open): as long as the twins are the old ones, the old clients can be put back.
@@ -91,7 +92,7 @@ bool putNewPairInPlace(const PairPaths& paths) {
         if (!QFile::exists(paths.previousClients) && QFileInfo(paths.clients).isFile() &&
             !moveOnto(paths.clients, paths.previousClients))
             return false;
-        if (!moveOnto(paths.nextClients, paths.clients)) return false;
+        if (!flushNames(paths) || !moveOnto(paths.nextClients, paths.clients)) return false;
     }
     if (QFile::exists(paths.nextTwins) && !moveOnto(paths.nextTwins, paths.twins)) return false;
     // The new pair stands by now, whatever becomes of the notes.
@@ -116,8 +117,8 @@ void removeNewFiles(const PairPaths& paths) {
 bool finish(const PairPaths& paths) {
     const bool finished = newPairIsWhole(paths) && putNewPairInPlace(paths);
     if (!finished && !putOldClientsBack(paths)) return false;
-    const bool isSettled = flushNames(paths) && (!finished || !paths.kept.isEmpty() || isGone(paths.previousClients));
-    if (isSettled && isGone(paths.marker)) {
+    const bool isNoneAside = !finished || !paths.kept.isEmpty() || isGone(paths.previousClients);
+    if (isNoneAside && flushNames(paths) && isGone(paths.marker)) {
         removeNewFiles(paths);
         (void)flushNames(paths); // the next commit flushes it
     }
@@ -212,6 +213,8 @@ bool ClientReplacement::commit(const CommitExtras& extras) {
     if (!whole_) return false;
     (void)clientCount(folder_); // creates a missing file, so that there always is an old one to put back
     const PairPaths paths(folder_, extras.keepOldClientsAs);
+    const QFileInfo twins(paths.twins);
+    if (!QFileInfo(paths.clients).isWritable() || (twins.exists() && !twins.isWritable())) return false;
     const auto isFree = [&] {
         return paths.kept.isEmpty() ? isGone(paths.previousClients) : !QFile::exists(paths.previousClients);
     };
@@ -238,16 +241,12 @@ Recovery finishInterruptedCommit(const ProgramFolder& folder) {
 
 qint64 addClient(const ProgramFolder& folder, const Client& client) {
     if (!settle(folder)) return 0;
-    RecordFile<ClientRec> clients(folder);
-    const qint64 number = clients.count() + 1;
-    // The count of a file that can't be opened is 0: its first twin must not be overwritten.
-    if (!clients.isWritable() || number > maxClientNumber) return 0;
-    // The twin first: the client exists only once the last byte of its own record is there.
-    RecordFile<TwinRec> twins(folder);
-    const bool stored = twins.write(number, client.twin) && twins.flush() && clients.write(number, client.client);
-    if (stored && clients.flush()) return number;
-    clients.truncate(number - 1); // told as refused, it must not turn up later
-    return 0;
+    const qint64 number = clientCount(folder) + 1;
+    if (number > maxClientNumber) return 0;
+    ClientReplacement replacement(folder);
+    replacement.keep(1);
+    replacement.append(client);
+    return replacement.commit() ? number : 0;
 }
 
 namespace {

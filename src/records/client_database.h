@@ -53,8 +53,8 @@ public:
     // piece of memory, which doesn't grow with the database.
     void keep(qint64 first, qint64 last = std::numeric_limits<qint64>::max());
     // Throws UnreadableFile, before anything changed. False: nothing was replaced, the old pair stands (disk full,
-    // folder not writable, a file held by another program, the name to keep the old file under taken). To be called
-    // once, last.
+    // folder or a file not writable, one held by another program, the name to keep the old file under taken). To be
+    // called once, last.
     [[nodiscard]] bool commit(const CommitExtras& extras = {});
 
 private:

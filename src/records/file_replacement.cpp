@@ -52,11 +52,10 @@ bool NewFile::commit(Flush flush) {
     return false;
 }
 
-bool replaceFile(const QString& path, QByteArrayView bytes, Flush flush) {
+bool replaceFile(const QString& path, QByteArrayView bytes) {
     NewFile file(path);
-    if (!file.open() || !file.write(bytes) || !file.commit(flush)) return false;
-    if (flush == Flush::yes)
-        (void)flushFolder(QFileInfo(target(path)).path()); // it is in place, be its name safe or not
+    if (!file.open() || !file.write(bytes) || !file.commit()) return false;
+    (void)flushFolder(QFileInfo(target(path)).path()); // it is in place, be its name safe or not
     return true;
 }
 

@@ -7,8 +7,8 @@
 // A file is replaced as one step: its new contents are written whole and flushed beside it, then put in its place. Who
 // opens it, after a kill or a power failure too, finds the old file or the new one.
 
-// Whether a change must have reached the disk before the program goes on. Without that a power failure may bring the
-// old contents back.
+// Whether this call puts the contents on the disk. They must be there before they take the place of the old ones, or a
+// power failure may leave neither.
 enum class Flush { no, yes };
 
 // New contents in the making, beside the file under a name of their own, "<name>.~<number of the process>". Destroyed
@@ -37,7 +37,7 @@ private:
 // Makes `bytes` the contents of a file, which need not exist. False: all is as it was (disk full, no right, a file held
 // by another program, a flush that failed). True: it is in place; where only the flush of its folder failed, a power
 // failure may still bring the old contents back.
-[[nodiscard]] bool replaceFile(const QString& path, QByteArrayView bytes, Flush flush = Flush::yes);
+[[nodiscard]] bool replaceFile(const QString& path, QByteArrayView bytes);
 
 // Puts one file in the place of another; what stood there goes. False: both are where they were.
 [[nodiscard]] bool moveOnto(const QString& from, const QString& to);

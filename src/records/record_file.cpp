@@ -60,3 +60,10 @@ QByteArray settings_file::read(const ProgramFolder& folder, const QString& name)
     if (!RawRecordFile(folder, name, 1).readAllInto(bytes)) throw UnreadableFile(name);
     return bytes;
 }
+
+bool settings_file::writeInPlace(const ProgramFolder& folder, const QString& name, qint64 offset,
+                                 QByteArrayView bytes) {
+    QFile file(folder.file(name));
+    return file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly | QIODevice::Unbuffered) && file.seek(offset) &&
+           file.write(bytes.data(), bytes.size()) == bytes.size();
+}

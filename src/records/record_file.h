@@ -1,6 +1,5 @@
 #pragma once
 
-#include "records/disk.h"
 #include "records/file_replacement.h"
 #include "records/page_buffer.h"
 #include "records/program_folder.h"
@@ -49,10 +48,6 @@ public:
     // of memory takes longer than reading. False if not all of them could be read.
     bool readAllInto(QByteArray& bytes) { return readWholeInto(bytes); }
     bool readAllInto(PageBuffer& bytes) { return readWholeInto(bytes); }
-    // Puts on the disk what was written.
-    bool flush() { return flushToDisk(file_); }
-    // Takes the records behind the first `count` away.
-    bool truncate(qint64 count) { return file_.resize(count * recordLength_); }
     QString name() const { return QFileInfo(file_.fileName()).fileName(); }
 
 private:
@@ -97,9 +92,6 @@ public:
     bool readAllInto(Bytes& bytes) {
         return file_.readAllInto(bytes);
     }
-    bool flush() { return file_.flush(); }
-    // Takes the records behind the first `count` away.
-    bool truncate(qint64 count) { return file_.truncate(count); }
 
 private:
     RawRecordFile file_;
@@ -116,6 +108,9 @@ Rec zeroRecord() {
 namespace settings_file {
 // All bytes of a file, which is created if it is missing. Throws UnreadableFile.
 QByteArray read(const ProgramFolder& folder, const QString& name);
+
+// False: nothing was written.
+bool writeInPlace(const ProgramFolder& folder, const QString& name, qint64 offset, QByteArrayView bytes);
 
 template<class Rec>
 QByteArray readFor(const ProgramFolder& folder) {
@@ -137,8 +132,20 @@ Rec readRecord(const ProgramFolder& folder) {
 // is on disk. The file is replaced as one step. False, and all is as it was, if it could not be written. Throws
 // UnreadableFile, and all is as it was.
 template<class Rec, class Change>
-bool updateRecord(const ProgramFolder& folder, Change change, Flush flush = Flush::yes) {
+bool updateRecord(const ProgramFolder& folder, Change change) {
     QByteArray bytes = settings_file::readFor<Rec>(folder);
     change(*reinterpret_cast<Rec*>(bytes.data())); // alignment 1
-    return replaceFile(folder.file(QString::fromLatin1(Rec::fileName)), bytes, flush);
+    return replaceFile(folder.file(QString::fromLatin1(Rec::fileName)), bytes);
+}
+
+// The same for one field that may be lost with the power: it is written in its place and not flushed, which costs next
+// to nothing. A replacement without a flush could lose the whole record.
+template<class Rec, class Field>
+bool updateField(const ProgramFolder& folder, Field Rec::*field, const Field& value) {
+    static_assert(sizeof(Field) <= 8, "written whole or not at all");
+    auto record = readRecord<Rec>(folder);
+    record.*field = value;
+    const auto offset = reinterpret_cast<const char*>(&(record.*field)) - reinterpret_cast<const char*>(&record);
+    return settings_file::writeInPlace(folder, QString::fromLatin1(Rec::fileName), offset,
+                                       {reinterpret_cast<const char*>(&value), qsizetype{sizeof value}});
 }

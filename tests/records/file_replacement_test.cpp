@@ -8,11 +8,6 @@
 #include <chrono>
 #include <thread>
 
-#ifdef Q_OS_UNIX
-#include <csignal>
-#include <sys/resource.h>
-#endif
-
 using namespace Qt::Literals::StringLiterals;
 
 TEST(FileReplacement, PutsWholeFilesInPlaceAndClearsWhatAKillLeft) {
@@ -48,23 +43,3 @@ TEST(FileReplacement, WaitsForWhoHoldsTheFileForAMoment) {
     EXPECT_TRUE(replaceFile(path, "new"));
     EXPECT_EQ(folder.bytes(u"a.dat"_s), QByteArray("new"));
 }
-
-#ifdef Q_OS_UNIX
-TEST(FileReplacement, WhatDoesNotFitOnTheDiskLeavesTheOldFile) {
-    const TestFolder folder;
-    folder.setBytes(u"a.dat"_s, "old");
-    const QString path = folder.folder().file(u"a.dat"_s);
-    // No file may grow beyond the limit, as on a full disk.
-    const auto former = std::signal(SIGXFSZ, SIG_IGN);
-    rlimit limit{};
-    getrlimit(RLIMIT_FSIZE, &limit);
-    const rlimit full{4096, limit.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &full);
-    const bool replaced = replaceFile(path, QByteArray(10000, 'x')) || replaceFile(path, QByteArray(100000, 'x'));
-    setrlimit(RLIMIT_FSIZE, &limit);
-    std::signal(SIGXFSZ, former);
-    EXPECT_FALSE(replaced);
-    EXPECT_EQ(folder.bytes(u"a.dat"_s), QByteArray("old"));
-    EXPECT_EQ(QDir(folder.folder().path()).entryList(QDir::Files).size(), 1);
-}
-#endif

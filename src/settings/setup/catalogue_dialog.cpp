@@ -45,7 +45,7 @@ public:
 
 private:
     void layOut(const CatalogueHalf& half);
-    void load();
+    void show(const std::vector<CatalogueEntry>& entries);
     void add();
     void remove();
     void tellRefused();
@@ -75,7 +75,7 @@ HalfView::HalfView(const CatalogueHalf& half, const ProgramFolder& folder, Promp
     connect(list_, &QTreeWidget::itemSelectionChanged, remove_, [this] { remove_->setEnabled(list_->picked() > 0); });
     connect(add_, &QPushButton::clicked, this, &HalfView::add);
     connect(remove_, &QPushButton::clicked, this, &HalfView::remove);
-    load();
+    show(readEntries(folder_, catalogue_));
 }
 
 void HalfView::layOut(const CatalogueHalf& half) {
@@ -90,9 +90,9 @@ void HalfView::layOut(const CatalogueHalf& half) {
     grid->addWidget(remove_, 3, 0, 1, 2, Qt::AlignLeft);
 }
 
-void HalfView::load() {
+void HalfView::show(const std::vector<CatalogueEntry>& entries) {
     std::vector<ReportList::Row> rows;
-    for (qint64 number = 1; const CatalogueEntry& entry : readEntries(folder_, catalogue_)) {
+    for (qint64 number = 1; const CatalogueEntry& entry : entries) {
         rows.push_back({{entry.Szoveg.trimmed(), QString::number(number)}, number});
         ++number;
     }
@@ -101,16 +101,18 @@ void HalfView::load() {
 }
 
 void HalfView::add() {
-    if (!appendEntry(folder_, catalogue_, box_->text())) return tellRefused();
-    load();
+    const auto entries = appendEntry(folder_, catalogue_, box_->text());
+    if (!entries) return tellRefused();
+    show(*entries);
     list_->scrollToBottom(); // the new entry is the last
     box_->clear();
     box_->setFocus();
 }
 
 void HalfView::remove() {
-    if (!removeEntry(folder_, catalogue_, list_->picked())) return tellRefused();
-    load();
+    const auto entries = removeEntry(folder_, catalogue_, list_->picked());
+    if (!entries) return tellRefused();
+    show(*entries);
 }
 
 void HalfView::tellRefused() {

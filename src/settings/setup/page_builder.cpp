@@ -138,7 +138,7 @@ QPushButton* PageBuilder::makeSave(const SaveRow& row, SaveNote* note) {
         Q_EMIT page->changed();
         if (saved) return note->tellSaved();
         prompts->tell({Icon::critical, titles::error,
-                       QStringLiteral("A beállításokat nem sikerült elmenteni!\n"
+                       QStringLiteral("Nem minden beállítást sikerült elmenteni!\n"
                                       "Ellenőrizd, hogy a program mappája írható-e!")});
     });
     return button;
