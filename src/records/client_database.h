@@ -52,8 +52,8 @@ public:
     // Raw records, as many twins as clients.
     void append(QByteArrayView clients, QByteArrayView twins);
     // Throws UnreadableFile, before anything changed. False: nothing was replaced, the old pair stands (disk full,
-    // folder or a file not writable, one held by another program, the name to keep the old file under taken). To be called
-    // once, last.
+    // folder or a file not writable, one held by another program, the name to keep the old file under taken). To be
+    // called once, last.
     [[nodiscard]] bool commit(const CommitExtras& extras = {});
 
 private:
