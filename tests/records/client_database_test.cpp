@@ -62,7 +62,7 @@ void layOut(const TestFolder& folder, const QByteArray& letters) {
     for (int i = 0; i < letters.size(); ++i) {
         const auto content = i == 1 || i == 3 ? &ClientPair::twins : &ClientPair::clients;
         const std::map<char, QByteArray> contents{
-            {'o', old.*content}, {'n', next.*content}, {'m', sizes + '\n'}, {'x', QByteArray(300, '\xFF')}};
+            {'o', old.*content}, {'n', next.*content}, {'e', ""}, {'m', sizes + '\n'}, {'x', QByteArray(300, '\xFF')}};
         const char letter = letters[i];
         if (letter != '-') folder.setBytes(files[i], contents.at(letter));
     }
