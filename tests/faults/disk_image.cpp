@@ -192,28 +192,33 @@ private:
     std::map<int, Steps> pendingBytes_; // by file
 };
 
-} // namespace
-
-DiskImage imageAfter(const DiskImage& before, const std::vector<DiskStep>& steps) {
+Disk diskAfter(const DiskImage& before, const std::vector<DiskStep>& steps) {
     Disk disk(before);
     for (const DiskStep& step : steps)
         disk.take(step);
-    return disk.withEverything();
+    return disk;
 }
 
-void forEachPowerFailure(const DiskImage& before, const std::vector<DiskStep>& steps,
-                         const std::function<void(const DiskImage&)>& visit) {
-    Disk disk(before);
+} // namespace
+
+DiskImage imageAfter(const DiskImage& before, const std::vector<DiskStep>& steps) {
+    return diskAfter(before, steps).withEverything();
+}
+
+void forEachPowerFailure(const DiskImage& before, const std::vector<DiskStep>& steps, const VisitImage& visit) {
     std::set<std::map<std::string, std::string>> seen;
-    const auto visitOnce = [&](const DiskImage& image) {
-        std::map<std::string, std::string> bytes;
-        for (const auto& [path, file] : image)
-            bytes[path] = file.bytes;
-        if (seen.insert(std::move(bytes)).second) visit(image);
+    const auto visitOnce = [&](bool ended) {
+        return [&, ended](const DiskImage& image) {
+            std::map<std::string, std::string> bytes;
+            for (const auto& [path, file] : image)
+                bytes[path] = file.bytes;
+            if (seen.insert(std::move(bytes)).second) visit(image, ended);
+        };
     };
-    disk.forEachState(visitOnce);
+    diskAfter(before, steps).forEachState(visitOnce(true)); // more is asked of these
+    Disk disk(before);
     for (const DiskStep& step : steps) {
+        disk.forEachState(visitOnce(false));
         disk.take(step);
-        disk.forEachState(visitOnce);
     }
 }

@@ -41,8 +41,8 @@ struct DiskStep {
 // What the steps come to.
 DiskImage imageAfter(const DiskImage& before, const std::vector<DiskStep>& steps);
 
-// What a disk may hold when its power fails in the middle of these steps, each image once. Whatever was flushed is
-// there. Of the changes of names that weren't, any three or fewer have come through, in any order, or are missing. Of a
-// file, what wasn't flushed is there, is missing, or is zeros where the file has grown.
-void forEachPowerFailure(const DiskImage& before, const std::vector<DiskStep>& steps,
-                         const std::function<void(const DiskImage&)>& visit);
+// What a disk may hold when its power fails in the middle of these steps or, `ended`, behind them, each image once.
+// Whatever was flushed is there. Of the changes of names that weren't, any three or fewer have come through, in any
+// order, or are missing. Of a file, what wasn't flushed is there, is missing, or is zeros where the file has grown.
+using VisitImage = std::function<void(const DiskImage& image, bool ended)>;
+void forEachPowerFailure(const DiskImage& before, const std::vector<DiskStep>& steps, const VisitImage& visit);

@@ -138,14 +138,14 @@ public:
             if (!isSame(imageAfter(before_, steps), readImage(stage_.path())))
                 return Report{.told = told(Told::done), .wrong = "a call changes files that isn't intercepted"};
             std::size_t count = 0;
-            forEachPowerFailure(before_, steps, [&](const DiskImage& /*state*/) { ++count; });
+            forEachPowerFailure(before_, steps, [&](const DiskImage& /*state*/, bool /*ended*/) { ++count; });
             const std::vector<std::size_t> chosen = spread(count, powerSample);
             Report report{.told = told(Told::done), .states = chosen.size()};
             std::size_t place = 0;
-            forEachPowerFailure(before_, steps, [&](const DiskImage& state) {
+            forEachPowerFailure(before_, steps, [&](const DiskImage& state, bool ended) {
                 if (!std::binary_search(chosen.begin(), chosen.end(), place++)) return;
                 writeImage(stage_.path(), state);
-                const std::string wrong = wrongAfter('?');
+                const std::string wrong = wrongAfter(ended && action_.tellsFailures ? told(Told::done) : '?');
                 if (!wrong.empty()) report.wrong += wrong + "; the disk held" + differences(state) + '\n';
             });
             return report;

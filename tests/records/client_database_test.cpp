@@ -55,8 +55,8 @@ const ClientPair old = pairOf({1, 2, 3});
 const ClientPair next = pairOf({1, 3});
 
 // Puts files of a commit from `old` to `next` on the disk, a letter each: clients, twins, the two that wait to take
-// their places, the former clients, the marker. o is the old content, n the new one, e
-// none, m the sizes that the marker holds, x junk, and - is no file.
+// their places, the former clients, the marker. o is the old content, n the new one, m the sizes that the marker holds,
+// x junk, and - is no file.
 void layOut(const TestFolder& folder, const QByteArray& letters) {
     const QStringList files = u"nevek1.dat kozl3sor.dat nevx.dat xxkoz.dat nevek1.regi csere.kesz"_s.split(u' ');
     const QByteArray sizes = QByteArray::number(next.clients.size()) + ' ' + QByteArray::number(next.twins.size());
