@@ -94,7 +94,7 @@ public:
 
 private:
     void write(const QString& path, QByteArrayView bytes) {
-        if (!replaceFile(path, bytes, Flush::no)) fail(path, "can't be written");
+        if (!replaceFile(path, bytes)) fail(path, "can't be written");
     }
 
     // An empty file is one that the program found missing.
