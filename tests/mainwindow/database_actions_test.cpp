@@ -19,13 +19,6 @@ protected:
         choose("mnuAdatCsvbol");
         EXPECT_EQ(QApplication::overrideCursor(), nullptr);
     }
-    // What was told since the last call, as "title|text#title|text".
-    std::string told() {
-        std::string texts;
-        for (const Message& message : std::exchange(prompts.told, {}))
-            texts += (texts.empty() ? "" : "#") + joined(message);
-        return texts;
-    }
     // No held number names a client that may be another one now.
     void expectNobodyHeld() const {
         EXPECT_EQ(window->rekordszam(), 0);
@@ -88,15 +81,6 @@ TEST_F(DatabaseWindow, WipeEmptiesFilesAndList) {
     expectNobodyHeld();
 }
 
-TEST_F(DatabaseWindow, ALongFileIsAskedFor) {
-    const QByteArray before = files.bytes(QStringLiteral("nevek1.dat"));
-    prompts.answers = {Answer::no};
-    importFile(csv(QByteArray("A\r\n").repeated(100000)));
-    EXPECT_EQ(prompts.asked.back().text, QStringLiteral("A fájl 100000 sort tartalmaz.\n\nMehet az importálás?"));
-    EXPECT_EQ(prompts.presets.back(), Answer::no);
-    EXPECT_EQ(files.bytes(QStringLiteral("nevek1.dat")), before);
-}
-
 TEST_F(DatabaseWindow, ImportAppendsOrOverwritesAsTheTitleSays) {
     importFile(csv("Tóth Éva;;;;;;900"));
     EXPECT_EQ(rows(), "Kiss Anna|[Szűcs Ernő]|Nagy Béla|Tóth Éva"); // the client in hand stays picked
@@ -119,7 +103,7 @@ TEST_F(DatabaseWindow, ImportAppendsOrOverwritesAsTheTitleSays) {
     EXPECT_EQ(text("txOsszeg"), "12500");
 }
 
-TEST_F(DatabaseWindow, ImportThatFailsLeavesTheDatabase) {
+TEST_F(DatabaseWindow, ImportThatFailsOrIsRefusedLeavesTheDatabase) {
     updateRecord<Set>(files, [](Set& set) { set.opHozzafuzes_1 = true; });
     const QByteArray before = files.bytes(QStringLiteral("nevek1.dat"));
     const struct {
@@ -137,6 +121,11 @@ TEST_F(DatabaseWindow, ImportThatFailsLeavesTheDatabase) {
         EXPECT_EQ(window->rekordszam(), 2);
         EXPECT_EQ(files.bytes(QStringLiteral("nevek1.dat")), before);
     }
+    prompts.answers = {Answer::no};
+    importFile(csv(QByteArray("A\r\n").repeated(100000)));
+    EXPECT_EQ(prompts.asked.back().text, QStringLiteral("A fájl 100000 sort tartalmaz.\n\nMehet az importálás?"));
+    EXPECT_EQ(prompts.presets.back(), Answer::no);
+    EXPECT_EQ(files.bytes(QStringLiteral("nevek1.dat")), before);
 }
 
 TEST_F(DatabaseWindow, ExportSaysWhatItCameTo) {

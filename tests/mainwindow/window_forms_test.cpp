@@ -11,20 +11,6 @@ namespace {
 class WindowForms : public WindowTest {
 protected:
     void SetUp() override { openWith({clientNamed(QStringLiteral("Kiss Anna"), 1500)}); }
-    // Of a mm on the picture of a form.
-    static double pixelsPerMm(const StationeryPage& page) {
-        constexpr double naturalPixels = 3.86;
-        const QSize natural = page.sizeHint();
-        return naturalPixels *
-               std::min(double(page.width()) / natural.width(), double(page.height()) / natural.height());
-    }
-    // Where the control ends on the picture, mm.
-    double bottomMm(const StationeryPage& page, double heightMm, const char* name) const {
-        const double scale = pixelsPerMm(page);
-        const QWidget& box = find(name);
-        const double top = (page.height() - heightMm * scale) / 2;
-        return (box.mapTo(&page, QPoint(0, box.height())).y() - top) / scale;
-    }
 };
 
 TEST_F(WindowForms, MirrorsShowWhatPrintsAndTakeNoTyping) {
@@ -144,24 +130,26 @@ TEST(StationeryPage, ScalesThePictureWhileItsSizeChangesAndReadsItAgainOnceItRes
 }
 
 TEST_F(WindowForms, EnvelopeBoxesEndOnTheDrawnLines) {
-    const std::tuple<const char*, const char*, double> types[] = {
-        {"OpB1", "BoritekC6.svg", 114}, {"OpB2", "BoritekC5.svg", 162}, {"OpB3", "BoritekC56.svg", 114}};
+    const std::pair<const char*, const char*> types[] = {
+        {"OpB1", "BoritekC6.svg"}, {"OpB2", "BoritekC5.svg"}, {"OpB3", "BoritekC56.svg"}};
     const char* boxes[] = {"txtBoritekFeladoNev",    "txtBoritekFeladoCim1",  "txtBoritekFeladoCim2",
                            "txtBoritekFeladoIrSzam", "txtFelado5mezo",        "txtBoritekCimzettNev",
                            "txtBoritekCimzettNev2",  "txtBoritekCimzettCim1", "txtBoritekCimzettCim2"};
     goTo(3);
     const auto& page = find<StationeryPage>("Frame3");
-    for (const auto& [option, file, heightMm] : types) {
+    for (const auto& [option, file] : types) {
         press(option);
         QCoreApplication::processEvents();
         QFile drawing(QStringLiteral(QT_TESTCASE_SOURCEDIR "/../assets/stationery/") + QLatin1String(file));
         ASSERT_TRUE(drawing.open(QIODevice::ReadOnly));
         static const QRegularExpression line(QStringLiteral("<line [^>]*y1=\"([0-9.]+)\""));
         auto lines = line.globalMatch(QString::fromUtf8(drawing.readAll()));
-        const double twoPixels = 2 / pixelsPerMm(page); // a box ends on a whole one
-        for (const char* box : boxes) {
+        const double twoPixels = page.mmAt({0, 2}).y() - page.mmAt({0, 0}).y(); // a box ends on a whole one
+        for (const char* name : boxes) {
             ASSERT_TRUE(lines.hasNext());
-            EXPECT_NEAR(bottomMm(page, heightMm, box), lines.next().captured(1).toDouble(), twoPixels) << file << box;
+            const QWidget& box = find(name);
+            const double bottom = page.mmAt(box.mapTo(&page, QPoint(0, box.height()))).y();
+            EXPECT_NEAR(bottom, lines.next().captured(1).toDouble(), twoPixels) << file << name;
         }
         EXPECT_FALSE(lines.hasNext());
     }
@@ -192,15 +180,11 @@ TEST_F(WindowForms, ALabelLineWithoutAFontSaysWhatItPrintsInAndStoresNothing) {
     EXPECT_EQ(readRecord<Betumeret>(files).ComboBetuSize[0], 0);
 }
 
-TEST_F(WindowForms, RulesReachTheClientInHandAndThePrompts) {
+TEST_F(WindowForms, RulesReachTheClientInHand) {
     clickRow(0);
     goTo(7);
     press("chkCimzettCsereUlap");
     EXPECT_EQ(text("lbUNev").rfind("Kiss Anna", 0), 0U);
-    goTo(4);
-    type("txtOszlop", QStringLiteral("5"));
-    press("cmdCimkeMeretRogzites");
-    EXPECT_EQ(joined(prompts.told.back()), "Figyelem!|Az oszlopok száma nem lehet több HÁROMNÁL!");
 }
 
 TEST_F(WindowForms, TheBarCodeIsTheDocumentNumber) {

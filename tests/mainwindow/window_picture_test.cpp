@@ -31,13 +31,11 @@ protected:
     }
     // The browser comes up on the program folder; `answer` ends it.
     void browse(const char* answer) {
-        QTimer::singleShot(0, [answer] {
-            QWidget* browser = QApplication::activeModalWidget();
-            ASSERT_NE(browser, nullptr);
-            auto& list = *browser->findChild<QListView*>(u"File1"_s);
+        inNextDialog([answer](const QWidget& browser) {
+            auto& list = *browser.findChild<QListView*>(u"File1"_s);
             list.setCurrentIndex(list.model()->index(0, 0));
             QTest::qWait(0);
-            browser->findChild<QAbstractButton*>(QLatin1String(answer))->click();
+            browser.findChild<QAbstractButton*>(QLatin1String(answer))->click();
         });
         press("cmdKepek");
     }

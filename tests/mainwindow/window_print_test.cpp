@@ -28,9 +28,13 @@ TEST_F(WindowPrint, NextPrintGoesToTheDeviceChosenLast) {
     } choices[] = {{[] {}, 0, false, 0},
                    {[&] { QTest::keyClick(&find("Combo2"), Qt::Key_Down); }, 1, false, 1},
                    {[&] { press("opPrinter_1"); }, 1, true, 2},
+                   {[&] { press("opPrinter_1"); }, 1, true, 2}, // an option stays selected
+                   {[&] { press("opPrinter_0"); }, 1, false, 1},
                    {[&] { press("opPrinter_0"); }, 1, false, 1}};
     for (const auto& choice : choices) {
         choice.act();
+        expectTicked("opPrinter_1", choice.systemDefault);
+        expectTicked("opPrinter_0", !choice.systemDefault);
         EXPECT_EQ(set().lbPrintNo, choice.lbPrintNo);
         EXPECT_EQ(set().opPrinter_1, choice.systemDefault);
         EXPECT_EQ(enabled("Combo2"), !choice.systemDefault);
@@ -124,16 +128,6 @@ TEST_F(WindowPrint, AfterAPrintTheKeysGoWhereTheyWent) {
         EXPECT_FALSE(set().opPrinter_1);
     }
     EXPECT_EQ(service.delivered.size(), 3U);
-}
-
-TEST_F(WindowPrint, ASelectedOptionStaysSelected) {
-    for (const char* option : {"OpOrientacioAllo", "OpOrientacioFekvo", "opPrinter_0", "opPrinter_1"})
-        for (int clicks = 0; clicks < 2; ++clicks) {
-            press(option);
-            EXPECT_TRUE(ticked(option)) << option;
-        }
-    expectTicked("OpOrientacioFekvo opPrinter_1", true);
-    expectTicked("OpOrientacioAllo opPrinter_0", false);
 }
 
 TEST_F(WindowPrint, StatusLineOpensThePdfAndForgetsItForTheNextClient) {
