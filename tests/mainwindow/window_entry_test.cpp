@@ -58,16 +58,14 @@ TEST_F(EntryTest, AddsAClientBehindTheOthers) {
     press("cmdRogzit");
     EXPECT_EQ(boxes(), "||||||");
     EXPECT_EQ(text("cmdRogzites") + text("chkTobbFelvetel"), "&FelvételTöbb felvétel egymásután");
-    struct {
-        const char16_t *name, *settlement, *street;
-        const char* refused;
-    } const lacking[] = {{u" ", u"A", u"B", "Nincs megadva a befizető neve"},
-                         {u"A", u"", u"B", "Nincs megadva helységnév"},
-                         {u"A", u"B", u"", "Nincs megadva a befizető címe"}};
-    for (const auto& row : lacking) {
-        typeClient(QString::fromUtf16(row.name), QString::fromUtf16(row.settlement), QString::fromUtf16(row.street));
+    const std::tuple<QString, QString, QString, const char*> lacking[] = {
+        {u" "_s, u"A"_s, u"B"_s, "Nincs megadva a befizető neve"},
+        {u"A"_s, u""_s, u"B"_s, "Nincs megadva helységnév"},
+        {u"A"_s, u"B"_s, u""_s, "Nincs megadva a befizető címe"}};
+    for (const auto& [name, settlement, street, refused] : lacking) {
+        typeClient(name, settlement, street);
         save({});
-        EXPECT_EQ(lastTold(), row.refused);
+        EXPECT_EQ(lastTold(), refused);
     }
     typeClient(u"őrsi ödön"_s, u"Abony"_s, u"Fő út 1"_s);
     save({Answer::no});

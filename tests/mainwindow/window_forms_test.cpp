@@ -14,10 +14,7 @@ protected:
 };
 
 TEST_F(WindowForms, MirrorsShowWhatPrintsAndTakeNoTyping) {
-    const struct {
-        int tab;
-        const char *typed, *mirror;
-    } mirrors[] = {
+    const std::tuple<int, const char*, const char*> mirrors[] = {
         {0, "txtSzoveg21", "txtSzoveg22"},
         {0, "txtSzoveg11", "txtSzoveg12"},
         {0, "txtKozl3sor_0", "txtKozl3sor_1"},
@@ -32,53 +29,48 @@ TEST_F(WindowForms, MirrorsShowWhatPrintsAndTakeNoTyping) {
         {6, "RlbCim", "txtCim"},
         {6, "RlbIrsz", "txtIrsz"},
     };
-    for (const auto& row : mirrors) {
-        SCOPED_TRACE(row.mirror);
-        goTo(row.tab);
-        type(row.typed, QStringLiteral("átírva"));
-        EXPECT_EQ(text(row.mirror), "átírva");
-        type(row.mirror, QStringLiteral("semmi"));
-        EXPECT_EQ(text(row.mirror), "átírva");
-        EXPECT_FALSE(find(row.mirror).focusPolicy() & Qt::TabFocus);
+    for (const auto& [tab, typed, mirror] : mirrors) {
+        SCOPED_TRACE(mirror);
+        goTo(tab);
+        type(typed, QStringLiteral("átírva"));
+        EXPECT_EQ(text(mirror), "átírva");
+        type(mirror, QStringLiteral("semmi"));
+        EXPECT_EQ(text(mirror), "átírva");
+        EXPECT_FALSE(find(mirror).focusPolicy() & Qt::TabFocus);
     }
 }
 
 TEST_F(WindowForms, AnAmountThatItsWordsCantAgreeWithIsShown) {
-    const struct {
-        int tab;
-        const char *box, *tooltip;
-    } boxes[] = {
+    const std::tuple<int, const char*, const char*> boxes[] = {
         {0, "txOsszeg", "Összeg (F2)"}, {6, "RtxOsszeg", "Összeg (F2)"}, {7, "txUosszeg", "Utánvételi összeg (F2)"}};
-    for (const auto& row : boxes) {
-        goTo(row.tab);
-        auto& box = find(row.box);
+    for (const auto& [tab, name, tooltip] : boxes) {
+        goTo(tab);
+        auto& box = find(name);
         const auto colour = [&box] { return box.grab().toImage().pixelColor(box.width() / 2, box.height() / 2); };
         for (const char* typed : {"1500", "12a", "12.5", "1500"}) {
-            type(row.box, QString::fromLatin1(typed));
+            type(name, QString::fromLatin1(typed));
             const bool agrees = typed == std::string("1500");
             const bool red = colour().red() > colour().green() + 20;
-            EXPECT_EQ(red, !agrees) << row.box << typed;
+            EXPECT_EQ(red, !agrees) << name << typed;
             const std::string differs = "A számjegyek és a betűs összeg eltér: a betűs összeg ";
             const std::string read = typed == std::string("12a") ? "12." : "13.";
-            EXPECT_EQ(box.toolTip().toStdString(), agrees ? row.tooltip : differs + read);
+            EXPECT_EQ(box.toolTip().toStdString(), agrees ? tooltip : differs + read);
         }
     }
 }
 
 TEST_F(WindowForms, EnterGoesToTheNextBoxOfThePage) {
-    const struct {
-        int tab;
-        std::vector<const char*> boxes;
-    } pages[] = {{0, {"txOsszeg", "txtSzoveg21", "txtSzoveg11", "Kozlemeny1", "txtKozl3sor_0"}},
-                 {0, {"txCim2", "txIrszam", "txOsszeg"}},
-                 {2, {"txCim3_2", "txUtanvet", "txtFeladov1"}}, // past the hidden declared value
-                 {6, {"txtIrszHatul", "RcsekkKozlemenyHatul_0", "RcsekkKozlemenyHatul_1"}}};
+    const std::pair<int, std::vector<const char*>> pages[] = {
+        {0, {"txOsszeg", "txtSzoveg21", "txtSzoveg11", "Kozlemeny1", "txtKozl3sor_0"}},
+        {0, {"txCim2", "txIrszam", "txOsszeg"}},
+        {2, {"txCim3_2", "txUtanvet", "txtFeladov1"}}, // past the hidden declared value
+        {6, {"txtIrszHatul", "RcsekkKozlemenyHatul_0", "RcsekkKozlemenyHatul_1"}}};
     goTo(6);
     press("cmdOldalCsere");
-    for (const auto& page : pages) {
-        goTo(page.tab);
-        find(page.boxes.front()).setFocus();
-        for (const char* box : page.boxes) {
+    for (const auto& [tab, boxes] : pages) {
+        goTo(tab);
+        find(boxes.front()).setFocus();
+        for (const char* box : boxes) {
             EXPECT_EQ(window->focusWidget(), &find(box)) << box;
             QTest::keyClick(window->focusWidget(), Qt::Key_Return);
         }

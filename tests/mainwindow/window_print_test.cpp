@@ -89,20 +89,15 @@ TEST_F(WindowPrint, PrintedClientsLeaveTheListIfTheSettingsSaySo) {
 TEST_F(WindowPrint, OnePressIsOneJob) {
     const auto jobs = [&] { return std::exchange(service.delivered, {}).size(); };
     auto& button = find<QPushButton>("cmdPrint");
-    const std::function<void()> presses[] = {
-        [&] { QTest::mouseClick(&button, Qt::LeftButton); },
-        [&] { // the events of a double click
-            QTest::mouseClick(&button, Qt::LeftButton);
-            QTest::mouseDClick(&button, Qt::LeftButton);
-            QTest::mouseRelease(&button, Qt::LeftButton);
-        },
-        [&] { QTest::keyClick(window.get(), Qt::Key_P, Qt::ControlModifier); },
-        [&] { QTest::keyClick(window.get(), Qt::Key_P, Qt::ControlModifier); }, // at once again: no job
-    };
-    const std::size_t expected[] = {1, 1, 1, 0};
-    for (std::size_t i = 0; i < std::size(presses); ++i) {
-        presses[i]();
-        EXPECT_EQ(jobs(), expected[i]) << i;
+    press("cmdPrint");
+    EXPECT_EQ(jobs(), 1U);
+    press("cmdPrint"); // the events of a double click, with the two below
+    QTest::mouseDClick(&button, Qt::LeftButton);
+    QTest::mouseRelease(&button, Qt::LeftButton);
+    EXPECT_EQ(jobs(), 1U);
+    for (const std::size_t expected : {1U, 0U}) { // at once again: no job
+        QTest::keyClick(window.get(), Qt::Key_P, Qt::ControlModifier);
+        EXPECT_EQ(jobs(), expected);
     }
     // What comes in while a job is handed over is dropped, whoever it was meant for.
     service.whileDelivering = [&] {
@@ -155,10 +150,6 @@ TEST_F(WindowPrint, StatusLineOpensThePdfAndForgetsItForTheNextClient) {
     press("cmdOldalCsere");
     press("cmdPrint"); // no amount on the back
     EXPECT_EQ(status().find("Az összeg"), std::string::npos) << status();
-    goTo(0);
-    type("txOsszeg", QStringLiteral("0"));
-    press("cmdPrint");
-    EXPECT_EQ(status(), "Nem készült nyomat. Az összeg üres vagy nulla.");
 }
 
 TEST_F(WindowPrint, TheLabelTabShowsWhatItHasCounted) {

@@ -54,11 +54,9 @@ TEST_F(WindowTabs, EachTabSetsButtonsFeedAndSample) {
 
 TEST_F(WindowTabs, AClickOnTheTabShowsTheSenderAsStored) {
     open();
-    const struct {
-        int tab;
-        const char* control;
-    } senders[] = {{1, "lbSajatNev2"},     {2, "lbSajatNev"}, {3, "txtBoritekFeladoNev"},
-                   {5, "lbIratFeladoNev"}, {6, "RlbNev"},     {7, "lbUNev"}};
+    const std::pair<int, const char*> senders[] = {
+        {1, "lbSajatNev2"},     {2, "lbSajatNev"}, {3, "txtBoritekFeladoNev"},
+        {5, "lbIratFeladoNev"}, {6, "RlbNev"},     {7, "lbUNev"}};
     for (const auto& [tab, control] : senders) {
         goTo(0);
         for (const char* name : {"Kovács Kft.", "Szűcs Bt."}) { // coming from another tab, and the tab in view
