@@ -172,15 +172,12 @@ TEST_F(WindowForms, ALabelLineWithoutAFontSaysWhatItPrintsInAndStoresNothing) {
     EXPECT_EQ(readRecord<Betumeret>(files).ComboBetuSize[0], 0);
 }
 
-TEST_F(WindowForms, RulesReachTheClientInHand) {
+TEST_F(WindowForms, RulesReachTheClientInHandAndWhatIsTyped) {
     clickRow(0);
     goTo(7);
     press("chkCimzettCsereUlap");
     EXPECT_EQ(text("lbUNev").rfind("Kiss Anna", 0), 0U);
-}
-
-TEST_F(WindowForms, TheBarCodeIsTheDocumentNumber) {
-    goTo(5);
+    goTo(5); // the bar code is the document's number
     press("chkVkod");
     type("txtIratKuldAzonosito", QStringLiteral("RL-9"));
     type("txtIratSzama", QStringLiteral(" 12/2024 "));
