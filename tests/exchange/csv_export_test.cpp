@@ -39,28 +39,19 @@ protected:
 } // namespace
 
 TEST_F(CsvExport, FieldsStandInFixedPlacesPaddedAndCut) {
-    const auto fill = [](auto& text, char c) { std::fill_n(text.data(), text.width, c); };
-    Client full;
-    fill(full.client.Nev, 'a');
-    fill(full.client.Nev2, 'b');
-    fill(full.client.Azonosito, 'c');
-    fill(full.client.Helyseg, 'd');
-    fill(full.client.Irsz, 'e');
-    fill(full.client.Cim, 'f');
-    full.client.Osszegek.fill(I32(-2000000000));
-    fill(full.twin.Kozl3Sor, 'h');
-    fill(full.client.FizHatIdo, 'i');
-    fill(full.twin.IratSzama, 'j');
-    fill(full.twin.IratFajtaja, 'k');
-    fill(full.twin.IratMelleklet, 'l');
-    fill(full.twin.SajatJelzes, 'm');
-    fill(full.twin.KuldemenyAzonosito, 'n');
-    full.client.Kulfoldi = true;
-    files.store(full.client);
-    files.store(full.twin);
+    const auto fill = [](char c, auto&... texts) { (std::fill_n(texts.data(), texts.width, c++), ...); };
+    ClientRec full;
+    TwinRec twin;
+    fill('a', full.Nev, full.Nev2, full.Azonosito, full.Helyseg, full.Irsz, full.Cim);
+    full.Osszegek.fill(I32(-2000000000));
+    fill('h', twin.Kozl3Sor, full.FizHatIdo, twin.IratSzama, twin.IratFajtaja, twin.IratMelleklet, twin.SajatJelzes,
+         twin.KuldemenyAzonosito);
+    full.Kulfoldi = true;
+    files.store(full);
+    files.store(twin);
     // The second client has no twin and holds bytes that would end a line.
     ClientRec odd = clientNamed(u"Őze\rEdit\n;ű"_s, 42);
-    fill(odd.Nev2, '\0');
+    fill('\0', odd.Nev2);
     files.store(odd, 2);
 
     const ExportOutcome outcome = exportTo(u"ki.csv"_s);
@@ -94,11 +85,8 @@ TEST_F(CsvExport, ComesBackThroughTheImportWithMarksExchanged) {
 }
 
 TEST_F(CsvExport, WritesInPlaceAndKeepsWhatLiesBehind) {
-    const struct {
-        int clients;
-        qsizetype before;
-        qsizetype after;
-    } cases[] = {
+    // The number of clients, and the file's size before (-1 for none) and after.
+    const std::tuple<int, qsizetype, qsizetype> cases[] = {
         {0, -1, 0}, {0, 10, 10}, {2, 10, 662}, {2, 662, 662}, {2, 700, 700}, {5000, 400, 5000 * exportLineLength},
     };
     for (const auto& [clients, before, after] : cases) {

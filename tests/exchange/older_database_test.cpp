@@ -78,12 +78,8 @@ TEST_F(OlderDatabase, WhatCannotBeConvertedStaysAsItIs) {
     for (int i = 1; i <= 300; ++i)
         many += olderRecord((i % 5 == 0 ? "Kiss \x01" : "Kiss\t") + QByteArray::number(i), 1000 + 30 * i, i % 3 * 700);
     const QByteArray damaged = QByteArray(currentRecords(9, 900)).replace("Budapest", "Buda\x01est");
-    const struct {
-        const char* what;
-        QByteArray database;
-        QByteArray copy; // nevekR.dat, if there is one
-        Conversion expected;
-    } cases[] = {
+    // The copy is nevekR.dat, if there is one.
+    const std::tuple<const char*, QByteArray, QByteArray, Conversion> cases[] = {
         {"empty", {}, {}, Conversion::nothingThere},
         {"cut", QByteArray(236, 'x'), {}, Conversion::nothingThere},
         {"nothing beside a copy", {}, "régi", Conversion::nothingThere},

@@ -60,12 +60,7 @@ protected:
 TEST_F(WatchedFolder, WatchesOnlyWhatIsConfigured) {
     drop(u"a.csv"_s, "A");
     const QString file = watched.filePath(u"a.csv"_s);
-    const struct {
-        const char* what;
-        QString folder;
-        std::int16_t isOn;
-        Result expected;
-    } cases[] = {
+    const std::tuple<const char*, QString, std::int16_t, Result> cases[] = {
         {"off", watched.path(), 0, Result::off},
         {"no path", {}, 1, Result::off},
         {"blank path", u"   "_s, 1, Result::off},

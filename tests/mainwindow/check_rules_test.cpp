@@ -1,22 +1,15 @@
 #include "joined_texts.h"
 #include "mainwindow/cash_on_delivery_rules.h"
 #include "mainwindow/pink_check_rules.h"
-#include "mainwindow/tab_words.h"
 #include "mainwindow/yellow_check_rules.h"
 #include "support/recording_service.h"
 #include "support/test_folder.h"
 
 #include <gtest/gtest.h>
 
-namespace {
+#include <functional>
 
-// With the recording service a character is size / 10 mm wide, so a row of 45 mm takes 45 characters of 10 points.
-Set yellowSet(int size, const QString& font = QStringLiteral("Times New Roman CE")) {
-    Set set = Set::factory();
-    set.ComboBetuTipus2.set(font);
-    set.TextBetuMeret2 = static_cast<std::int16_t>(size);
-    return set;
-}
+namespace {
 
 SetRcsekk fixedParty() {
     SetRcsekk set = SetRcsekk::factory();
@@ -32,6 +25,7 @@ SetRcsekk fixedParty() {
     return set;
 }
 
+// A character is size / 10 mm wide here, so a row of 45 mm takes 45 characters of 10 points.
 class CheckRules : public testing::Test {
 protected:
     RecordingService service;
@@ -42,95 +36,69 @@ struct Amount {
     const char* typed;
     int size;          // points of the measure
     std::string words; // upper line and lower line
+    const char16_t* font = u"Times New Roman CE";
 };
 
-TEST_F(CheckRules, YellowAmountIsWordedAndFitted) {
-    const Amount amounts[] = {
-        {"", 10, "|"},
-        {"0", 10, "|"},
-        {"abc", 10, "|"},
-        {"500", 10, "Ötszáz|"},
-        {"0500", 10, "Ötszáz|"},
-        {"999", 100, "Kilencszázkilencvenkilenc|"}, // nothing to part, however wide
-        {"1000", 10, "Egyezer-|"},
-        {"12a", 10, "Tizenkettő|"},
-        {"12 500", 10, "Tizenkettőezer-ötszáz|"},
-        {"12345", 10, "Tizenkettőezer-háromszáznegyvenöt|"},
-        {"12345", 20, "Tizenkettőezer-|háromszáznegyvenöt"},
-        {"123456789", 15, "MAX BEÍRHATÓ ÖSSZEG:99.999.999|"}, // 30 characters are just 45 mm
-        {"123456789", 16, "MAX BEÍRHATÓ ÖSSZEG:|99.999.999"},
-        {"12345", 0, "Tizenkettőezer-háromszáznegyvenöt|"}, // can't be measured
+TEST_F(CheckRules, AmountsAreWordedAndFitted) {
+    const auto settings = [](const Amount& amount) {
+        Set set = Set::factory();
+        set.ComboBetuTipus2.set(amount.font);
+        set.TextBetuMeret2 = static_cast<std::int16_t>(amount.size);
+        return set;
     };
-    for (const Amount& amount : amounts) {
-        SCOPED_TRACE(amount.typed + std::to_string(amount.size));
+    const auto yellow = [&](const Amount& amount) {
         YellowCheckTab tab;
         tab.txtSzoveg21 = tab.txtSzoveg11 = QStringLiteral("régi");
         tab.txOsszeg = QLatin1String(amount.typed);
-        txOsszeg_Change(tab, yellowSet(amount.size), device);
-        EXPECT_EQ(joined({tab.txtSzoveg21, tab.txtSzoveg11}), amount.words);
-    }
-    EXPECT_TRUE(service.delivered.empty());
-}
-
-TEST_F(CheckRules, OnlyPlainAmountsCanAgreeWithTheirWords) {
-    const struct {
-        std::vector<const char16_t*> typed;
-        bool plain;
-    } tables[] = {{{u"", u" ", u"0", u"0500", u"12500", u" 12 500 ", u"1 2 5", u"12\u00a0500", u"12\u2009500",
-                    u"12.500", u"12,500", u"1.234.567", u"1,234,567", u"1 234.567"},
-                   true},
-                  {{u"12a", u"abc", u"-5", u"+5", u"12.5", u"12,50", u"12.5000", u"1.234.5", u".500", u"12..500",
-                    u"12.", u"1500 Ft", u"12:500", u"1.23\n4", u"१२"},
-                   false}};
-    for (const auto& [typed, plain] : tables)
-        for (const char16_t* amount : typed)
-            EXPECT_EQ(isPlainAmount(amount), plain) << QString::fromUtf16(amount).toStdString();
-}
-
-TEST_F(CheckRules, UnknownFontJoinsTheWords) {
-    YellowCheckTab tab;
-    tab.txOsszeg = QStringLiteral("1234567");
-    txOsszeg_Change(tab, yellowSet(10, QStringLiteral("Nincs ilyen")), device);
-    EXPECT_EQ(tab.txtSzoveg11, QString());
-    EXPECT_TRUE(tab.txtSzoveg21.endsWith(QStringLiteral("ezer-ötszázhatvanhét")));
-}
-
-TEST_F(CheckRules, PinkAmountFillsItsCopiesByHand) {
-    PinkCheckTab tab;
-    tab.RtxOsszeg = QStringLiteral("1234567");
-    RtxOsszeg_Change(tab, fixedParty(), device);
-    const std::string words = "Egymilliókettőszázharmincnégyezer-|ötszázhatvanhét";
-    EXPECT_EQ(joined({tab.RtxtSzoveg21, tab.RtxtSzoveg11}), words);
-    EXPECT_EQ(joined({tab.RtxtSzoveg12, tab.RtxtSzoveg22}), words); // the copies, the upper line's first
-
-    tab.RtxOsszeg = QStringLiteral("10000000"); // eight digits
-    RtxOsszeg_Change(tab, fixedParty(), device);
-    EXPECT_EQ(joined({tab.RtxtSzoveg12, tab.RtxtSzoveg22}), "MAX BEÍRHATÓ ÖSSZEG:9.999.999|");
-    tab.RtxOsszeg.clear();
-    RtxOsszeg_Change(tab, fixedParty(), device);
-    EXPECT_EQ(tab.RtxtSzoveg21 + tab.RtxtSzoveg11, QString());
-    // Typing into an empty box later sets the copy anew.
-    EXPECT_EQ(tab.RtxtSzoveg12, QStringLiteral("MAX BEÍRHATÓ ÖSSZEG:9.999.999"));
-}
-
-TEST_F(CheckRules, CashOnDeliveryAmountStandsBetweenStars) {
-    const Amount amounts[] = {
-        {"", 10, "**|"},
-        {"700", 10, "*hétszáz*|"},
-        {"700", 100, "*|hétszáz*"},
-        {"12345", 10, "*Tizenkettőezer-háromszáznegyvenöt*|"},
-        {"12345", 20, "*Tizenkettőezer-|háromszáznegyvenöt*"},
-        // 49 characters: too wide for a check, not for this form
-        {"1234567", 10, "*Egymilliókettőszázharmincnégyezer-ötszázhatvanhét*|"},
-        {"99999999999", 10, "*MAX BEÍRHATÓ ÖSSZEG:9.999.999*|"},
+        txOsszeg_Change(tab, settings(amount), device);
+        return joined({tab.txtSzoveg21, tab.txtSzoveg11});
     };
-    for (const Amount& amount : amounts) {
-        SCOPED_TRACE(amount.typed + std::to_string(amount.size));
+    const auto pink = [&](const Amount& amount) {
+        PinkCheckTab tab;
+        tab.RtxtSzoveg12 = tab.RtxtSzoveg22 = QStringLiteral("régi");
+        tab.RtxOsszeg = QLatin1String(amount.typed);
+        RtxOsszeg_Change(tab, fixedParty(), device);
+        const std::string words = joined({tab.RtxtSzoveg21, tab.RtxtSzoveg11});
+        // The copies, the upper line's first. An empty box leaves them; typing into it later sets them anew.
+        EXPECT_EQ(joined({tab.RtxtSzoveg12, tab.RtxtSzoveg22}), words == "|" ? "régi|régi" : words);
+        return words;
+    };
+    const auto cashOnDelivery = [&](const Amount& amount) {
         CashOnDeliveryTab tab;
         tab.txUosszeg = QLatin1String(amount.typed);
-        txUosszeg_Change(tab, yellowSet(amount.size), device);
-        EXPECT_EQ(joined({tab.lbosszegBetuvel1, tab.lbosszegBetuvel2}), amount.words);
-    }
+        txUosszeg_Change(tab, settings(amount), device);
+        return joined({tab.lbosszegBetuvel1, tab.lbosszegBetuvel2});
+    };
+    const std::pair<std::function<std::string(const Amount&)>, std::vector<Amount>> forms[] = {
+        {yellow,
+         {{"", 10, "|"},
+          {"abc", 10, "|"},
+          {"0500", 10, "Ötszáz|"},
+          {"999", 100, "Kilencszázkilencvenkilenc|"}, // nothing to part, however wide
+          {"1000", 10, "Egyezer-|"},
+          {"12a", 10, "Tizenkettő|"},
+          {"12 500", 10, "Tizenkettőezer-ötszáz|"},
+          {"12345", 20, "Tizenkettőezer-|háromszáznegyvenöt"},
+          {"123456789", 15, "MAX BEÍRHATÓ ÖSSZEG:99.999.999|"}, // 30 characters are just 45 mm
+          {"123456789", 16, "MAX BEÍRHATÓ ÖSSZEG:|99.999.999"},
+          {"12345", 0, "Tizenkettőezer-háromszáznegyvenöt|"}, // can't be measured, as the next one
+          {"1234567", 10, "Egymilliókettőszázharmincnégyezer-ötszázhatvanhét|", u"Nincs ilyen"}}},
+        {pink,
+         {{"1234567", 10, "Egymilliókettőszázharmincnégyezer-|ötszázhatvanhét"},
+          {"10000000", 10, "MAX BEÍRHATÓ ÖSSZEG:9.999.999|"},
+          {"", 10, "|"}}},
+        {cashOnDelivery,
+         {{"", 10, "**|"},
+          {"700", 10, "*hétszáz*|"},
+          {"700", 100, "*|hétszáz*"},
+          {"12345", 20, "*Tizenkettőezer-|háromszáznegyvenöt*"},
+          // 49 characters: too wide for a check, not for this form
+          {"1234567", 10, "*Egymilliókettőszázharmincnégyezer-ötszázhatvanhét*|"},
+          {"99999999999", 10, "*MAX BEÍRHATÓ ÖSSZEG:9.999.999*|"}}}};
+    for (const auto& [words, amounts] : forms)
+        for (const Amount& amount : amounts)
+            EXPECT_EQ(words(amount), amount.words) << amount.typed << ' ' << amount.size;
+    EXPECT_TRUE(service.delivered.empty());
 }
 
 std::string sender(const PinkCheckTab& tab) {

@@ -1,7 +1,7 @@
 #include "mainwindow/hungarian_order.h"
 #include "records/windows1250.h"
 
-#include <QCollator>
+#include <QStringList>
 
 #include <gtest/gtest.h>
 
@@ -43,25 +43,10 @@ TEST(HungarianOrder, ListsNamesAsADirectoryDoes) {
     EXPECT_EQ(keyOf(QString()), std::string());
 }
 
-// Compares with the toolkit's collator every name of the list with every other.
-TEST(HungarianOrder, AgreesWithTheCollator) {
-    QCollator collator(QLocale(QLocale::Hungarian, QLocale::Hungary));
-    collator.setCaseSensitivity(Qt::CaseInsensitive);
-    if (collator.compare(u"cukor", u"csap") >= 0 || collator.compare(u"ob", u"öa") >= 0)
-        GTEST_SKIP() << "this build of the toolkit knows no Hungarian order";
-    if (collator.compare(u"Kis-Nagy", u"Kisbán") >= 0)
-        GTEST_SKIP() << "this build of the toolkit passes over signs, as Windows does";
-    for (const QString& a : inOrder)
-        for (const QString& b : inOrder)
-            EXPECT_EQ(sign(keyOf(a).compare(keyOf(b))), sign(collator.compare(a, b)))
-                << a.toStdString() << " / " << b.toStdString();
-}
-
 TEST(HungarianOrder, TakesAnyBytes) {
-    QByteArray all(256, '\0');
+    QByteArray all;
     for (int i = 1; i < 256; ++i)
-        all[i - 1] = static_cast<char>(i);
-    all.chop(1);
+        all += static_cast<char>(i);
     std::string key(hungarian_order::keyRoom(255), '\0');
     EXPECT_LE(hungarian_order::writeKey(all, key.data()), key.data() + key.size());
 }

@@ -47,45 +47,29 @@ protected:
 };
 
 TEST_F(PrintDispatch, TabFeedAndButtonFindTheRoutine) {
+    // The pages of the single and the batch, each upright and sideways, and their print dialogs.
     const struct {
         Tab tab;
-        Press press;
-        Feed feed;
-        const char* printed;
-        std::size_t dialogs;
-    } routes[] = {{Tab::yellowCheck, Press::single, Feed::upright, "sarga-csekk DL 1", 0},
-                  {Tab::yellowCheck, Press::single, Feed::sideways, "sarga-csekk own 1", 0},
-                  {Tab::yellowCheck, Press::batch, Feed::upright, "sarga-csekk DL 2", 1},
-                  {Tab::yellowCheck, Press::batch, Feed::sideways, "sarga-csekk own 2", 0},
-                  {Tab::postingReceipt, Press::single, Feed::upright, "feladoveveny DL 1", 0},
-                  {Tab::postingReceipt, Press::single, Feed::sideways, "feladoveveny own 1", 0},
-                  {Tab::postingReceipt, Press::batch, Feed::upright, "feladoveveny DL 2", 0},
-                  {Tab::postingReceipt, Press::batch, Feed::sideways, "feladoveveny own 2", 0},
-                  {Tab::documentReceipt, Press::single, Feed::upright, "irat-tertiveveny DL 1", 0},
-                  {Tab::documentReceipt, Press::single, Feed::sideways, "irat-tertiveveny own 1", 0},
-                  {Tab::documentReceipt, Press::batch, Feed::upright, "irat-tertiveveny DL 2", 0},
-                  {Tab::documentReceipt, Press::batch, Feed::sideways, "irat-tertiveveny own 2", 0},
-                  {Tab::pinkCheck, Press::single, Feed::upright, "rozsaszin-csekk DL 1", 0},
-                  {Tab::pinkCheck, Press::single, Feed::sideways, "rozsaszin-csekk A4 1", 0},
-                  {Tab::pinkCheck, Press::batch, Feed::upright, "rozsaszin-csekk DL 2", 1},
-                  {Tab::pinkCheck, Press::batch, Feed::sideways, "rozsaszin-csekk A4 2", 1},
-                  {Tab::returnReceipt, Press::single, Feed::upright, "tertiveveny A4 1", 0},
-                  {Tab::returnReceipt, Press::single, Feed::sideways, "tertiveveny own 1", 0},
-                  {Tab::returnReceipt, Press::batch, Feed::upright, "tertiveveny A4 2", 0},
-                  {Tab::returnReceipt, Press::batch, Feed::sideways, "tertiveveny own 2", 0},
-                  {Tab::cashOnDelivery, Press::single, Feed::upright, "utanveteli-lap DL 1", 0},
-                  {Tab::cashOnDelivery, Press::single, Feed::sideways, "utanveteli-lap A4 1", 0},
-                  {Tab::cashOnDelivery, Press::batch, Feed::upright, "utanveteli-lap DL 2", 0},
-                  {Tab::cashOnDelivery, Press::batch, Feed::sideways, "utanveteli-lap own 2", 0},
-                  {Tab::envelope, Press::single, Feed::upright, "boritek C5 1", 0},
-                  {Tab::envelope, Press::single, Feed::sideways, "boritek C5 upright 1", 0},
-                  {Tab::envelope, Press::batch, Feed::upright, "boritek C5 2", 0},
-                  {Tab::envelope, Press::batch, Feed::sideways, "boritek C5 upright 2", 0}};
-    for (const auto& route : routes) {
-        prompts.printerChoices.assign(route.dialogs, PrinterChoice{0, 1});
-        ASSERT_GT(print(route.tab, route.feed, route.press).pages, 0) << route.printed;
-        EXPECT_EQ(lastPrinted(), route.printed);
-        EXPECT_TRUE(prompts.printerChoices.empty());
+        const char *form, *printed[4];
+        std::size_t dialogs[4];
+    } forms[] = {
+        {Tab::yellowCheck, "sarga-csekk", {"DL 1", "own 1", "DL 2", "own 2"}, {0, 0, 1, 0}},
+        {Tab::postingReceipt, "feladoveveny", {"DL 1", "own 1", "DL 2", "own 2"}, {}},
+        {Tab::documentReceipt, "irat-tertiveveny", {"DL 1", "own 1", "DL 2", "own 2"}, {}},
+        {Tab::pinkCheck, "rozsaszin-csekk", {"DL 1", "A4 1", "DL 2", "A4 2"}, {0, 0, 1, 1}},
+        {Tab::returnReceipt, "tertiveveny", {"A4 1", "own 1", "A4 2", "own 2"}, {}},
+        {Tab::cashOnDelivery, "utanveteli-lap", {"DL 1", "A4 1", "DL 2", "own 2"}, {}},
+        {Tab::envelope, "boritek", {"C5 1", "C5 upright 1", "C5 2", "C5 upright 2"}, {}},
+    };
+    for (const auto& form : forms) {
+        for (const std::size_t way : {0U, 1U, 2U, 3U}) {
+            SCOPED_TRACE(std::string(form.form) + ' ' + form.printed[way]);
+            prompts.printerChoices.assign(form.dialogs[way], PrinterChoice{0, 1});
+            const Press press = way < 2 ? Press::single : Press::batch;
+            ASSERT_GT(print(form.tab, way % 2 == 0 ? Feed::upright : Feed::sideways, press).pages, 0);
+            EXPECT_EQ(lastPrinted(), std::string(form.form) + ' ' + form.printed[way]);
+            EXPECT_TRUE(prompts.printerChoices.empty());
+        }
     }
 }
 
@@ -188,26 +172,35 @@ TEST_F(PrintDispatch, ABatchTellsWhoseStreetItLeavesOut) {
               "Figyelem!|2 külföldi címzett utcája a csoportos nyomtatásban nem szerepel!");
 }
 
-TEST_F(PrintDispatch, LabelsAskForAnUprightA4PageOnTheChosenPrinter) {
+TEST_F(PrintDispatch, LabelsAndPostingListAskForTheirPageOnTheChosenPrinter) {
     auto sheet = zeroRecord<CimkeSetup>();
     sheet.txtOszlop = sheet.txtSor = 2;
     files.store(sheet);
     const std::string page = "A nyomtató beállítása nem álló A4-es lap.\n\nÁtállítsam álló A4-re a nyomtatás előtt?";
     const std::string printer =
         "A cimkék nem a beállított nyomtatóra kerülnének.\n\nÁtállítsam arra a nyomtatás előtt?";
+    const std::string listPage = "A nyomtató beállítása nem A4-es lap.\n\nÁtállítsam A4-re a nyomtatás előtt?";
+    const auto printLabels = [&] { return print(Tab::label, Feed::upright, Press::single); };
+    const auto printList = [&] { return dispatchPostingList(desk, tabs, rows); };
     const struct {
+        bool ofList;
         bool systemDefault; // by the settings; else device 1
         std::function<void()> before;
         std::string question; // empty for none
         int asLeft, inOrder;  // devices that a no and a yes print on
     } states[] = {
-        {false, [&] { device.setCurrentPrinter(1); }, {}, 1, 1},
-        {false, [&] { device.setCurrentPrinter(0); }, printer, 0, 1},
-        {false, [&] { device.setTrackDefault(true); }, printer, 2, 1},
-        {true, [&] { device.setTrackDefault(true); }, {}, 2, 2},
-        {true, [&] { device.setCurrentPrinter(1); }, printer, 1, 2},
-        {false, [&] { print(Tab::envelope, Feed::upright, Press::single); }, page, 1, 1},
-        {false, [&] { print(Tab::cashOnDelivery, Feed::sideways, Press::batch); }, page, 1, 1},
+        {false, false, [&] { device.setCurrentPrinter(1); }, {}, 1, 1},
+        {false, false, [&] { device.setCurrentPrinter(0); }, printer, 0, 1},
+        {false, false, [&] { device.setTrackDefault(true); }, printer, 2, 1},
+        {false, true, [&] { device.setTrackDefault(true); }, {}, 2, 2},
+        {false, true, [&] { device.setCurrentPrinter(1); }, printer, 1, 2},
+        {false, false, [&] { print(Tab::envelope, Feed::upright, Press::single); }, page, 1, 1},
+        {false, false, [&] { print(Tab::cashOnDelivery, Feed::sideways, Press::batch); }, page, 1, 1},
+        {true, false, [&] { device.setCurrentPrinter(1); }, {}, 1, 1},
+        {true, false, [&] { device.setOrientation(2); }, {}, 1, 1},
+        {true, false, [&] { device.setCurrentPrinter(0); }, listPage, 0, 1},
+        {true, false, [&] { device.setPaperSize(28); }, listPage, 1, 1},
+        {true, false, [&] { device.setSizeMm(210, 105); }, listPage, 1, 1},
     };
     for (int number = 0; const auto& state : states) {
         SCOPED_TRACE(++number);
@@ -215,53 +208,26 @@ TEST_F(PrintDispatch, LabelsAskForAnUprightA4PageOnTheChosenPrinter) {
             set.opPrinter_1 = state.systemDefault;
             storeSettings();
             state.before();
-            const PageSetup left = device.pageSetup();
+            PageSetup left = device.pageSetup();
+            if (state.ofList) left.orientation = 2;
             if (!state.question.empty()) prompts.answers = {answer};
-            ASSERT_EQ(print(Tab::label, Feed::upright, Press::single).pages, 1);
+            ASSERT_EQ(state.ofList ? printList().pages : printLabels().pages, 1);
             EXPECT_TRUE(prompts.answers.empty());
             EXPECT_EQ(lastJob().printer, answer == Answer::yes ? state.inOrder : state.asLeft);
-            EXPECT_EQ(lastSetup(), answer == Answer::yes ? PageSetup() : left);
+            const PageSetup inOrder = state.ofList ? PageSetup{2, 9, {}} : PageSetup();
+            EXPECT_EQ(lastSetup(), answer == Answer::yes ? inOrder : left);
             if (state.question.empty()) continue;
             EXPECT_EQ(::joined(prompts.asked.back()), " FIGYELEM |" + state.question);
         }
     }
-    set.opPrinter_1 = false;
+    device.setPaperSize(28);
+    rows.selected.clear();
+    EXPECT_EQ(printList().trouble, QStringLiteral("Nincs kijelölt ügyfél.")); // without a question
     set.lbPrintNo = 7;
     storeSettings();
     prompts.answers = {Answer::yes};
-    EXPECT_EQ(trouble(Tab::label, Feed::upright, Press::single), "Az index kívül esik a tartományon");
+    EXPECT_EQ(printLabels().trouble, QStringLiteral("Az index kívül esik a tartományon"));
     EXPECT_EQ(prompts.told.at(0).title, QStringLiteral("! HIBA !"));
-}
-
-TEST_F(PrintDispatch, ThePostingListAsksForAnA4PageOnTheChosenPrinter) {
-    const auto print = [&] { return dispatchPostingList(desk, tabs, rows); };
-    const struct {
-        std::function<void()> before;
-        bool asks;
-        int asLeft; // device that a no prints on; a yes takes device 1
-    } states[] = {
-        {[&] { device.setCurrentPrinter(1); }, false, 1}, {[&] { device.setOrientation(2); }, false, 1},
-        {[&] { device.setCurrentPrinter(0); }, true, 0},  {[&] { device.setPaperSize(28); }, true, 1},
-        {[&] { device.setSizeMm(210, 105); }, true, 1},
-    };
-    for (int number = 0; const auto& state : states) {
-        SCOPED_TRACE(++number);
-        for (const Answer answer : {Answer::no, Answer::yes}) {
-            state.before();
-            PageSetup left = device.pageSetup();
-            left.orientation = 2;
-            if (state.asks) prompts.answers = {answer};
-            ASSERT_EQ(print().pages, 1);
-            EXPECT_EQ(lastJob().printer, answer == Answer::yes ? 1 : state.asLeft);
-            EXPECT_EQ(lastSetup(), answer == Answer::yes ? (PageSetup{2, 9, {}}) : left);
-            if (!state.asks) continue;
-            EXPECT_EQ(::joined(prompts.asked.back()),
-                      " FIGYELEM |A nyomtató beállítása nem A4-es lap.\n\nÁtállítsam A4-re a nyomtatás előtt?");
-        }
-    }
-    device.setPaperSize(28);
-    rows.selected.clear();
-    EXPECT_EQ(print().trouble, QStringLiteral("Nincs kijelölt ügyfél.")); // without a question
 }
 
 } // namespace

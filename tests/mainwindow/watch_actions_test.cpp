@@ -35,13 +35,6 @@ protected:
     QTimer& timer() const { return find<QTimer>("Timer1"); }
     void tick() const { QMetaObject::invokeMethod(&timer(), "timeout", Qt::DirectConnection); }
     bool isWaiting() const { return QFile::exists(watched.filePath(u"be.csv"_s)); }
-    std::string told() {
-        std::string texts;
-        for (const Message& message : std::exchange(prompts.told, {}))
-            texts += joined(message);
-        return texts;
-    }
-
     QTemporaryDir watched;
 };
 

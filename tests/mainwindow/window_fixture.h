@@ -133,18 +133,29 @@ protected:
         QTest::mouseClick(&bar, Qt::LeftButton, {}, bar.tabRect(tab).center());
         QCoreApplication::processEvents(); // lays out what came into view
     }
-    // Chooses from the menu; a modal dialog that opens is shown to `inDialog` and closed.
-    template<class InDialog>
-    void choose(const char* menuEntry, InDialog inDialog) const {
-        QTimer::singleShot(0, [inDialog] {
+    // The modal dialog that opens next is shown to `act` and closed.
+    template<class Act>
+    static void inNextDialog(Act act) {
+        QTimer::singleShot(0, [act] {
             QWidget* dialog = QApplication::activeModalWidget();
             ASSERT_NE(dialog, nullptr);
-            inDialog(*dialog);
+            act(*dialog);
             dialog->close();
         });
-        choose(menuEntry);
     }
     void choose(const char* menuEntry) const { find<QAction>(menuEntry).trigger(); }
+    template<class Act>
+    void choose(const char* menuEntry, Act inDialog) const {
+        inNextDialog(inDialog);
+        choose(menuEntry);
+    }
+    // What was told since the last call, as "title|text#title|text".
+    std::string told() {
+        std::string texts;
+        for (const Message& message : std::exchange(prompts.told, {}))
+            texts += (texts.empty() ? "" : "#") + joined(message);
+        return texts;
+    }
 
     QTreeView& list() const { return find<QTreeView>("ListView1"); }
     void clickRow(int row, Qt::KeyboardModifiers modifiers = {}, Qt::MouseButton button = Qt::LeftButton) const {

@@ -92,10 +92,17 @@ TEST_F(WindowList, KeysReachListSearchAmountAndReload) {
     const auto key = [&](Qt::Key code) { QTest::keyClick(window.get(), code); };
     key(Qt::Key_F2);
     EXPECT_EQ(window->focusWidget(), &find("RtxOsszeg"));
+    goTo(0);
+    type("txNev", QStringLiteral("xyz"));
+    EXPECT_EQ(rows(), "Kiss Anna|Nagy Béla|Kiss Éva|Ács Dóra"); // its box isn't ticked
+    goTo(6);
     key(Qt::Key_F3);
     EXPECT_EQ(window->focusWidget(), &find("txNev"));
     EXPECT_TRUE(shown("txNev") && ticked("Check1"));
-    type("txNev", QStringLiteral("kiss"));
+    type("txNev", QStringLiteral("k"));
+    QTest::keyClick(&find("txNev"), Qt::Key_Backspace);
+    EXPECT_EQ(rows(2), "1|2|3|4");
+    type("txNev", QStringLiteral("KISS"));
     EXPECT_EQ(rows(), "Kiss Anna|Kiss Éva");
     QTest::keyClick(&find("txNev"), Qt::Key_Down);
     EXPECT_EQ(window->focusWidget(), &list());
@@ -118,20 +125,7 @@ TEST_F(WindowList, RecordsBeyondTheHeldNumberCannotBePicked) {
     clickRow(32766);
     clickRow(32767);
     EXPECT_EQ(window->rekordszam(), 32767);
-    ASSERT_EQ(prompts.told.size(), 1U);
-    EXPECT_EQ(joined(prompts.told[0]), "Figyelem!|A 32767. rekord utáni ügyfelek innen nem választhatók ki!");
-}
-
-TEST_F(WindowList, LiveSearchNarrowsTheListWhileTyping) {
-    openWithFour();
-    type("txNev", QStringLiteral("xyz"));
-    EXPECT_EQ(rows(), "Kiss Anna|Nagy Béla|Kiss Éva|Ács Dóra"); // its box isn't ticked
-    press("Check1");
-    type("txNev", QStringLiteral("KISS é"));
-    EXPECT_EQ(rows() + rows(2), "Kiss Éva3");
-    for (int letters = 6; letters > 0; --letters)
-        QTest::keyClick(&find("txNev"), Qt::Key_Backspace);
-    EXPECT_EQ(rows(2), "1|2|3|4");
+    EXPECT_EQ(told(), "Figyelem!|A 32767. rekord utáni ügyfelek innen nem választhatók ki!");
 }
 
 TEST_F(WindowList, SearchingByAClickKeepsTheClickedClient) {

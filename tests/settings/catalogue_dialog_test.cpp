@@ -43,16 +43,15 @@ struct OpenedCatalogue {
 } // namespace
 
 TEST(CatalogueDialog, EachHalfAddsToItsOwnFileAndDeletesFromIt) {
-    struct Row {
+    const struct {
         const CatalogueLook& look;
         const char *file, *box, *add, *remove, *list;
-    };
-    const Row rows[] = {
+    } rows[] = {
         {frmJogcimek, "Jogcimek.dat", "txtJogcim1", "cmdFelvesz", "cmdDel", "ListView1"},
         {frmJogcimek, "Jogcimek2.dat", "txtJogcim2", "cmdFelvesz2", "cmdDel2", "ListView2"},
         {frmKozlemeny, "Kozlem.dat", "txtKozlemeny", "cmdFelvesz", "cmdDel", "ListView1"},
     };
-    for (const Row& row : rows) {
+    for (const auto& row : rows) {
         SCOPED_TRACE(row.file);
         const TestFolder folder;
         const QString file = QString::fromLatin1(row.file);

@@ -80,31 +80,31 @@ TEST(EnvelopePage, AnotherTypeTakesUnsavedPositionsAwayButTellsSo) {
 }
 
 TEST(EnvelopePage, OnlyWholeNumbersOfTheFieldAreStored) {
-    for (const char16_t* good : {u"12", u" 12 ", u"-3", u"32767"}) {
-        const TestFolder folder = numberedPositions();
-        OpenedSetup setup(folder, page);
-        setup.type("Text1_2", QString::fromUtf16(good));
+    const TestFolder folder = numberedPositions();
+    OpenedSetup setup(folder, page);
+    setup.dialog.show();
+    const auto save = [&](const char16_t* typed) {
+        setup.type("Text1_2", QString::fromUtf16(typed));
         setup.widget<QPushButton>("cmdBoritekMeretSave_0").click();
+    };
+    for (const char16_t* good : {u"12", u" 12 ", u"-3", u"32767"}) {
+        save(good);
         EXPECT_EQ(readRecord<boritek>(folder).boritekC6Cimzett_y, QString::fromUtf16(good).toInt());
     }
+    EXPECT_TRUE(setup.prompts.told.empty());
+    const QByteArray before = folder.bytes(u"boritek.dat"_s);
+    const auto& box = setup.widget<QLineEdit>("Text1_2");
     for (const char16_t* bad : {u"", u" ", u"abc", u"12,5", u"12.5", u"1e9", u"5 mm", u"32768", u"%1"}) {
-        const TestFolder folder = numberedPositions();
-        const QByteArray before = folder.bytes(u"boritek.dat"_s);
-        OpenedSetup setup(folder, page);
-        setup.dialog.show();
         setup.type("Text1_0", u"50"_s);
-        setup.type("Text1_2", QString::fromUtf16(bad));
-        setup.widget<QPushButton>("cmdBoritekMeretSave_0").click();
-        ASSERT_EQ(setup.prompts.told.size(), 1U);
-        EXPECT_EQ(setup.prompts.told[0].icon, Icon::critical);
-        EXPECT_EQ(setup.prompts.told[0].title, u"Hiba"_s);
-        EXPECT_EQ(setup.prompts.told[0].text,
-                  u"Hibás szám: ''"_s + QString::fromUtf16(bad) + u"''\nIde csak szám írható!"_s);
-        auto& box = setup.widget<QLineEdit>("Text1_2");
+        save(bad);
+        EXPECT_EQ(setup.prompts.told.back().icon, Icon::critical);
+        EXPECT_EQ(setup.prompts.told.back().title + u'|' + setup.prompts.told.back().text,
+                  u"Hiba|Hibás szám: ''"_s + QString::fromUtf16(bad) + u"''\nIde csak szám írható!"_s);
         EXPECT_EQ(setup.dialog.focusWidget(), &box);
         EXPECT_EQ(box.selectedText(), box.text());
         EXPECT_EQ(folder.bytes(u"boritek.dat"_s), before);
     }
+    EXPECT_EQ(setup.prompts.told.size(), 9U);
 }
 
 TEST(EnvelopePage, ASizeBelowOneBecomesTenButNotWhileItIsTyped) {

@@ -1,5 +1,6 @@
 #include "settings/check_layouts.h"
 #include "settings/general_settings.h"
+#include "settings/receipt_layouts.h"
 #include "settings/setup/font_box.h"
 #include "setup_fixture.h"
 
@@ -23,21 +24,24 @@ TEST(SetupDialog, OpensOnThePageAskedForOrTheFirst) {
 
 TEST(SetupDialog, TypedTextsAreStoredByTheirLeadingNumber) {
     // The box, what is typed, and what it shows after the save and at the next opening.
-    const QStringList rows =
+    const QStringList yellow =
         u"Textosszeg_x1=12.3456 mm=12.3456;Textosszeg_x1=12,5=12.5;Textosszeg_x1=abc=0;Textosszeg_x1==0;"
         "Textosszeg_x1=-4=-4;Textosszeg_x1=1e9=1;Textosszeg_x1= 12 "
         "=12;TextVkorrekcio=-3=-3;TextBetuMeret2=10,5=11;TextBetuMeret2=70000=32767;"
         "ComboBetuTipus1=Egyedi Betű=Egyedi Betű;ComboBetuTipus2=Huszonöt betűnél hosszabb név=Huszonöt betűnél "
         "hosszabb;txtFizHat=Határidő: tizenöt felett=Határidő: tizen;"
         "chkFizHat=1=1"_s.split(u';');
-    for (const QString& row : rows) {
-        const TestFolder folder;
-        const QByteArray box = row.section(u'=', 0, 0).toLatin1();
-        OpenedSetup setup(folder);
-        setup.type(box, row.section(u'=', 1, 1));
-        setup.press("Command1", Answer::yes);
-        EXPECT_EQ(setup.text(box), row.section(u'=', 2)) << row.toStdString();
-        EXPECT_EQ(OpenedSetup(folder).text(box), row.section(u'=', 2)) << row.toStdString();
+    const QStringList receipt = u"txtTertiCimzett_x=-20,5=-20.5;KTertiKulVisszaSorem=8,75=8.75"_s.split(u';');
+    for (const auto& [save, rows] : {std::pair("Command1", yellow), {"cmdTertiMentes", receipt}}) {
+        for (const QString& row : rows) {
+            const TestFolder folder;
+            const QByteArray box = row.section(u'=', 0, 0).toLatin1();
+            OpenedSetup setup(folder);
+            setup.type(box, row.section(u'=', 1, 1));
+            setup.press(save, Answer::yes);
+            EXPECT_EQ(setup.text(box), row.section(u'=', 2)) << row.toStdString();
+            EXPECT_EQ(OpenedSetup(folder).text(box), row.section(u'=', 2)) << row.toStdString();
+        }
     }
 }
 
@@ -63,11 +67,8 @@ TEST(SetupDialog, ABoxWithoutANumberIsMarkedWhileItIsTyped) {
 }
 
 TEST(SetupDialog, APageTellsWhatIsNotSavedAndWhenItWasSaved) {
-    struct Row {
-        int page;
-        const char *button, *box, *frame; // the frame that the button stands in, if it does
-    };
-    const Row rows[] = {
+    // The last is the frame that the button stands in, if it does.
+    const std::tuple<int, const char*, const char*, const char*> rows[] = {
         {0, "Command1", "chkFizHat", ""},
         {0, "Command2", "ComboBetuTipus1", ""},
         {1, "cmdTertiMentes", "txtTertiVisszakuldNev", ""},
@@ -77,36 +78,36 @@ TEST(SetupDialog, APageTellsWhatIsNotSavedAndWhenItWasSaved) {
         {5, "cmdRcsekkCimzettMent", "txRcsekkNev", "Frame1_1"},
         {6, "cmdULapMentes", "opULapCizett_0", ""},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.button);
+    for (const auto& [page, button, box, inFrame] : rows) {
+        SCOPED_TRACE(button);
         const TestFolder folder;
         OpenedSetup setup(folder);
-        const auto told = [&] { // with a star for the mark on the tab
-            QString texts = setup.widget<QTabWidget>("SSTab1").tabText(row.page).endsWith(u" *") ? u"* "_s : u""_s;
+        const auto told = [&setup, tab = page] { // with a star for the mark on the tab
+            QString texts = setup.widget<QTabWidget>("SSTab1").tabText(tab).endsWith(u" *") ? u"* "_s : u""_s;
             for (const QLabel* note : setup.dialog.findChildren<QLabel*>(u"lbElmentve"_s))
                 if (!note->text().isEmpty()) texts += note->parentWidget()->objectName() + note->text();
             return texts;
         };
-        const QString frame = QString::fromLatin1(row.frame);
+        const QString frame = QString::fromLatin1(inFrame);
         const QString unsaved = u"* "_s + frame + u"Nem mentett módosítások"_s;
-        const QString stored = setup.text(row.box);
+        const QString stored = setup.text(box);
         EXPECT_EQ(told(), QString());
-        setup.type(row.box, u"1"_s);
+        setup.type(box, u"1"_s);
         EXPECT_EQ(told(), unsaved);
-        if (row.page < 6) { // an option isn't taken back by itself
-            setup.type(row.box, stored);
+        if (page < 6) { // an option isn't taken back by itself
+            setup.type(box, stored);
             EXPECT_EQ(told(), QString());
-            setup.type(row.box, u"1"_s);
+            setup.type(box, u"1"_s);
         }
-        if (row.page != 3) {
-            setup.press(row.button, Answer::no);
+        if (page != 3) {
+            setup.press(button, Answer::no);
             EXPECT_EQ(told(), unsaved);
             setup.prompts.answers.push_back(Answer::yes);
         }
-        setup.widget<QPushButton>(row.button).click();
+        setup.widget<QPushButton>(button).click();
         const QRegularExpression saved(u'^' + frame + u"Elmentve \\d\\d:\\d\\d:\\d\\d$"_s);
         EXPECT_TRUE(saved.match(told()).hasMatch()) << told().toStdString();
-        setup.type(row.box, u"0"_s);
+        setup.type(box, u"0"_s);
         setup.type("opULapCizett_1", u"1"_s);
         EXPECT_TRUE(told().startsWith(unsaved));
     }
@@ -146,9 +147,31 @@ TEST(SetupDialog, TheDefaultButtonFillsTheDeadlineTextOnlyWhereThereIsNone) {
     }
 }
 
-TEST(SetupDialog, TheFixedAddresseeIsStoredByItsOwnButtonOnly) {
+TEST(SetupDialog, ThePayeeIsGivenByOneOfTwoOptionsAndTheBankShowsWithItsOwn) {
+    const TestFolder folder;
+    for (const bool stored : {true, false}) {
+        updateRecord<SetRcsekk>(folder, [=](SetRcsekk& set) { set.opULapCizett_0 = stored; });
+        OpenedSetup setup(folder, 6);
+        setup.dialog.show();
+        const QWidget& bank = setup.widget("txtBankNeve");
+        for (const bool byAddress : {stored, !stored, stored}) {
+            setup.type(byAddress ? "opULapCizett_0" : "opULapCizett_1", u"1"_s);
+            EXPECT_EQ(setup.text(byAddress ? "opULapCizett_1" : "opULapCizett_0"), u"0"_s);
+            EXPECT_EQ(bank.isVisible(), !byAddress);
+            for (const QLabel* label : setup.dialog.findChildren<QLabel*>())
+                EXPECT_TRUE(label->buddy() != &bank || label->isVisible() == bank.isVisible());
+            setup.press("cmdULapMentes", Answer::yes);
+            EXPECT_EQ(bool{readRecord<SetRcsekk>(folder).opULapCizett_0}, byAddress);
+        }
+    }
+}
+
+TEST(SetupDialog, TextsThatHaveNoFactoryValueAreStoredWithTheDefaultsOrByTheirOwnButton) {
     const TestFolder folder;
     OpenedSetup setup(folder, 5);
+    setup.type("txtTertiVisszakuldNev", u"Most írt név"_s);
+    setup.press("cmdTertiAlapbeallitas", Answer::yes);
+    EXPECT_EQ(readRecord<SetTerti>(folder).txtTertiVisszakuldNev.trimmed(), u"Most írt név"_s);
     setup.type("txRcsekkNev", u"Őri Kft."_s);
     setup.type("txRcsekkIrszam", u"1024"_s);
     setup.press("cmdRCsekkMentes", Answer::yes);
@@ -163,7 +186,7 @@ TEST(SetupDialog, TheFixedAddresseeIsStoredByItsOwnButtonOnly) {
     EXPECT_EQ(set.txRcsekkIrszam.trimmed(), u"1024"_s);
 }
 
-TEST(SetupDialog, TheBackOfThePinkCheckLiesOverTheFrontAndIsStoredInEitherState) {
+TEST(SetupDialog, TheBackOfThePinkCheckLiesOverTheFront) {
     const TestFolder folder;
     OpenedSetup setup(folder, 5);
     auto& frame = setup.widget<QGroupBox>("Frame7");
@@ -176,10 +199,6 @@ TEST(SetupDialog, TheBackOfThePinkCheckLiesOverTheFrontAndIsStoredInEitherState)
         EXPECT_EQ(button.text(), backShown ? u"Első oldal beállításai"_s : u"Hátoldal beállításai"_s);
         button.click();
     }
-    button.click();
-    setup.type("txRcsekkFeladoHatoldal_x", u"82"_s);
-    setup.press("cmdRCsekkMentes", Answer::yes);
-    EXPECT_EQ(readRecord<SetRcsekk>(folder).txRcsekkFeladoHatoldal_x, Cur(82));
 }
 
 TEST(SetupDialog, PrintBoxesShowTheStoredFlagsUnlessTheRecordIsNew) {
