@@ -132,6 +132,34 @@ TEST_F(FormRoutineTest, NoPageHasAReason) {
     EXPECT_EQ(clientsPrinted, 2);
 }
 
+TEST_F(FormRoutineTest, ClientsAreTakenOutOnceKnownAndBeforeTheFirstPage) {
+    int taken = 0;
+    desk.takeSelectedOut = [&] { taken += device.pageCount() == 0 && service.delivered.empty() ? 1 : 100; };
+    routine.takesClientsOut = true;
+    const struct {
+        const char* name;
+        std::int16_t printDel, printer;
+        int refuseWith;
+        std::vector<int> numbers;
+        int taken;
+    } cases[] = {{"switched off", 0, 1, 0, {1}, 0},
+                 {"all well", 1, 1, 0, {1, 4}, 1},
+                 {"refused by the device", 1, 1, 482, {1}, 1},
+                 {"no such printer", 1, 7, 0, {1}, 0},
+                 {"no such number", 1, 1, 0, {-1}, 0},
+                 {"declined", 1, 1, 0, upTo(20), 0}};
+    prompts.answers = {Answer::no};
+    for (const auto& row : cases) {
+        std::tie(set.chkPrintDel, set.lbPrintNo) = std::tie(row.printDel, row.printer);
+        storeSettings();
+        service.refuseWith = row.refuseWith;
+        service.delivered.clear();
+        taken = 0;
+        printNumbers(row.numbers);
+        EXPECT_EQ(taken, row.taken) << row.name;
+    }
+}
+
 TEST_F(FormRoutineTest, ThePageIsSetUpOnceOrForEachClient) {
     for (const bool perClient : {false, true}) {
         routine.opensPerClient = perClient;

@@ -9,8 +9,6 @@ namespace {
 
 class PostingList : public CheckTest {
 protected:
-    FormTabs tabs;
-
     PostingList() {
         files.store(FjSet::firstRun());
         for (int number = 1; number <= 3; ++number)
