@@ -22,7 +22,14 @@ using enum FailureWay;
 
 namespace {
 
-enum Trait : unsigned { single = 0, batch = 1, followsDefault = 2, takesClientsOut = 4, takesAllWhenAutomatic = 8 };
+enum Trait : unsigned {
+    single = 0,
+    batch = 1,
+    followsDefault = 2,
+    takesClientsOut = 4,
+    takesAllWhenAutomatic = 8,
+    asLeft = 16
+};
 
 struct Form {
     const char* name;
@@ -69,6 +76,9 @@ const Form forms[] = {
     {"envelope sideways", PrintFekvoBoritek, "boritek", fallbackFont, {1, 28, {}}},
     {"envelope upright batch", PrintCsAlloBoritek, "boritek", fallbackFont, {2, 28, {}}, batch},
     {"envelope sideways batch", PrintCsFekvoBoritek, "boritek", fallbackFont, {1, 28, {}}, batch},
+    // Printer and page are the window's own choice.
+    {"labels", PrintAlloCimke, "cimke", message, {2, 11, {}}, asLeft},
+    {"posting list", PrintFeladojegyzek, "feladojegyzek", message, {2, 11, {}}, asLeft},
 };
 
 class EveryForm : public CheckTest {
@@ -79,6 +89,12 @@ protected:
         files.store(SetFveveny::factory());
         files.store(SetIrat2::factory());
         files.store(boritek::firstRun());
+        auto sheet = zeroRecord<CimkeSetup>();
+        sheet.txtOszlop = sheet.txtSor = 2;
+        files.store(sheet);
+        files.store(Betutip::firstRun());
+        files.store(Betumeret::firstRun());
+        files.store(FjSet::firstRun());
         for (const int amount : {1234567, 0})
             addClient(clientNamed(u"Nagy Áron"_s, amount));
         const QString name = tabs.yellowCheck.txNev = u"Valaki"_s;
@@ -109,7 +125,10 @@ TEST_F(EveryForm, HasItsTitlePageAndPrinterAndTakesItsClientsOut) {
             taken = 0;
             const PrintOutcome outcome = print(form, {1, 2});
             const bool asks = *form.summary != '\0';
-            const int inForce = !settingsFollowDefault ? 1 : form.traits & followsDefault ? 2 : 0;
+            const int inForce = form.traits & asLeft           ? 0
+                                : !settingsFollowDefault       ? 1
+                                : form.traits & followsDefault ? 2
+                                                               : 0;
             const auto& [job, printer] = lastJob();
             EXPECT_EQ(job.title, QLatin1String(form.title));
             EXPECT_EQ(job.pages[0].setup, form.page);
@@ -126,17 +145,20 @@ TEST_F(EveryForm, HasItsTitlePageAndPrinterAndTakesItsClientsOut) {
 
 TEST_F(EveryForm, FailsItsOwnWayAndLeavesNothingToTheNextJob) {
     const auto always = [](const Form&) { return true; };
-    const auto ofBatches = [](const Form& form) { return (form.traits & batch) != 0; };
+    const auto takesThePrinterOfTheSettings = [](const Form& form) { return (form.traits & asLeft) == 0; };
+    const auto checksNumbers = [](const Form& form) {
+        return (form.traits & batch) != 0 || form.routine == PrintFeladojegyzek;
+    };
     const auto withDialog = [](const Form& form) { return *form.summary != '\0'; };
     const struct {
         int number;
         QString trouble; // its beginning
         bool (*concerns)(const Form&);
         FailureWay prints; // the way that still prints; silent: none
-    } failures[] = {{9, u"Az index kívül esik a tartományon"_s, always, passOver},
+    } failures[] = {{9, u"Az index kívül esik a tartományon"_s, takesThePrinterOfTheSettings, passOver},
                     {482, u"A nyomtató nem fogadja a munkát."_s, always, silent},
                     {380, u"A betűtípus nem használható: "_s, always, fallbackFont},
-                    {6, u"Túlcsordulás"_s, ofBatches, passOver},
+                    {6, u"Túlcsordulás"_s, checksNumbers, passOver},
                     {32755, u"A nyomtatás megszakítva."_s, withDialog, silent}};
     const RecordingService sound = service;
     for (const auto& failure : failures) {
@@ -187,7 +209,7 @@ TEST_F(EveryForm, WithNobodyToPrintForSaysSo) {
         EXPECT_EQ(prompts.told[0].title + prompts.told[0].text, box);
     }
     for (const Form& form : forms) {
-        if ((form.traits & batch) == 0) continue;
+        if ((form.traits & (batch | asLeft)) == 0) continue;
         EXPECT_EQ(print(form, {}).trouble, u"Nincs kijelölt ügyfél."_s) << form.name;
     }
     EXPECT_TRUE(service.delivered.empty());
@@ -195,19 +217,11 @@ TEST_F(EveryForm, WithNobodyToPrintForSaysSo) {
 }
 
 TEST_F(EveryForm, SurvivesDamagedFiles) {
-    auto sheet = zeroRecord<CimkeSetup>();
-    sheet.txtOszlop = sheet.txtSor = 2;
-    files.store(sheet);
-    files.store(Betutip::firstRun());
-    files.store(Betumeret::firstRun());
     tabs.envelope.chkKepPrint = true;
     tabs.envelope.picture = QImage(2, 1, QImage::Format_RGB32);
     tabs.documentReceipt.chkVkod = true;
     tabs.label.chkCimke1[0] = true;
     tabs.label.cimkeRekord.fill(std::numeric_limits<int>::max());
-    std::vector<Routine> routines{PrintAlloCimke, PrintFeladojegyzek};
-    for (const Form& form : forms)
-        routines.push_back(form.routine);
     const std::pair<const char*, qsizetype> records[] = {
         {Set::fileName, sizeof(Set)},           {SetRcsekk::fileName, sizeof(SetRcsekk)},
         {SetUlap::fileName, sizeof(SetUlap)},   {SetTerti::fileName, sizeof(SetTerti)},
@@ -232,9 +246,9 @@ TEST_F(EveryForm, SurvivesDamagedFiles) {
                     tabs.pinkCheck.opAllando = other ? FixedParty::sender : FixedParty::addressee;
                     tabs.returnReceipt.foreign = tabs.label.chkEgyediCimke = other;
                     tabs.envelope.type = other ? EnvelopeType::C5 : EnvelopeType::C6;
-                    for (const Routine routine : routines) {
-                        const PrintOutcome outcome = routine(desk, tabs, {{}, {1, 32767}});
-                        EXPECT_TRUE(outcome.pages > 0 || !outcome.trouble.isEmpty()) << name;
+                    for (const Form& form : forms) {
+                        const PrintOutcome outcome = form.routine(desk, tabs, {{}, {1, 32767}});
+                        EXPECT_TRUE(outcome.pages > 0 || !outcome.trouble.isEmpty()) << form.name << name;
                     }
                 }
             }

