@@ -147,17 +147,6 @@ TEST(JobPainter, onePictureIsKeptOnceForAllPages) {
     }
 }
 
-TEST(JobPainter, everyPageIsPrintedAndNoOther) {
-    PrintJob job;
-    for (const QString& word : {u"egy"_s, u"kettő"_s, u"három"_s, u" "_s})
-        job.pages.push_back({sidewaysCheck, {PlacedText{10, 10, arial10, word}}});
-    const auto pages = pagesOf(pdf(job));
-    ASSERT_EQ(pages.size(), 4U);
-    EXPECT_EQ(pages[1].word(u"kettő"_s).text, u"kettő"_s);
-    EXPECT_TRUE(pages[3].words.empty());
-    EXPECT_TRUE(pdf({}).isEmpty());
-}
-
 TEST(JobPainter, aDeviceThatDoesNotBeginIsAnError) {
     const QTemporaryDir folder;
     QPdfWriter writer(folder.filePath(u"hianyzik/x.pdf"_s));

@@ -124,10 +124,4 @@ TEST_F(YellowCheck, PouredDeadlineIsEachClientsOwn) {
     }
 }
 
-TEST_F(YellowCheck, SettingsThatPrintNothingAreTold) {
-    files.store(zeroRecord<Set>()); // as if never written
-    EXPECT_EQ(print(PrintAlloCsekk).trouble, u"A Beállításokban egyetlen nyomtatandó adat sincs kipipálva!"_s);
-    EXPECT_TRUE(service.delivered.empty());
-}
-
 } // namespace
