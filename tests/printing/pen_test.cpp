@@ -1,22 +1,13 @@
 #include "printing/pen.h"
-#include "support/recording_service.h"
-#include "support/scripted_prompts.h"
-#include "support/test_folder.h"
 
-#include <gtest/gtest.h>
+#include "check_fixture.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-class PenTest : public testing::Test {
+class PenTest : public CheckTest {
 protected:
-    TestFolder files;
-    RecordingService service;
-    ScriptedPrompts prompts;
-    PrintDevice device{service};
-    PrintDesk desk{device, prompts, files};
-
     Pen pen(FailureWay way) { return {desk, way, u"form"_s}; }
 
     static void writeTwoPages(Pen& pen, const QString& secondFont) {
@@ -119,24 +110,6 @@ TEST_F(PenTest, ARefusedJobSaysWhyNoPageCameOut) {
     noted.Note(u"hiányos"_s);
     writeTwoPages(noted, u"Arial CE"_s);
     EXPECT_EQ(noted.outcome().trouble, u"A nyomtató nem fogadja a munkát."_s);
-}
-
-TEST_F(PenTest, HeldTextsShareALineAndTheNextRowIsOneLineOfTheFormerFontDown) {
-    Pen pen = this->pen(FailureWay::silent);
-    pen.SetFont(u"Arial CE"_s, 10);
-    pen.PlaceHold(10, 20, u"a"_s);
-    pen.PlaceHold(50, {}, u"b"_s);
-    pen.PlaceText(10, 30, u"c"_s);
-    pen.SetFont(u"Arial CE"_s, 20, Weight::bold);
-    pen.PlaceNext(11, u"d"_s);
-    pen.SkipLine();
-    pen.PlaceNext(12, u"e"_s);
-    pen.EndForm(FormEnd::job);
-    const PrintedPage& page = service.delivered.at(0).job.pages.at(0);
-    EXPECT_EQ(placedTexts(page).join(u';').replace(u"Arial CE"_s, u"A"_s).toStdString(),
-              "10.00 20.00 10 A|a;50.00 20.00 10 A|b;10.00 30.00 10 A|c;11.00 34.00 20 A|d;0.00 42.00 20 A| ;"
-              "12.00 50.00 20 A|e");
-    EXPECT_TRUE(std::get<PlacedText>(page.items.back()).font.bold);
 }
 
 } // namespace
