@@ -14,6 +14,8 @@
 #include "settings/other_settings.h"
 #include "settings/receipt_layouts.h"
 
+#include <functional>
+
 // What is the same question to every form: its title, page and printer, what becomes of it when a step fails or nothing
 // is there to print, and files that are damaged.
 
@@ -22,6 +24,7 @@ using enum FailureWay;
 
 namespace {
 
+// asLeft: printer and page as the window or the form before left them.
 enum Trait : unsigned {
     single = 0,
     batch = 1,
@@ -39,12 +42,15 @@ struct Form {
     PageSetup page;
     unsigned traits = single;
     const char* summary = ""; // of the print dialog; without one it isn't shown
+
+    bool is(Trait trait) const { return (traits & trait) != 0; }
+    bool asks() const { return *summary != '\0'; }
 };
 
 const PageSetup a4, dl{2, 27, {}};
 PageSetup own(double width, double height, int paper = 9) { return {1, paper, QSizeF(width, height)}; }
 
-const unsigned tracking = batch | followsDefault, taking = batch | takesClientsOut;
+const unsigned taking = batch | takesClientsOut;
 const char* const checks = "2 csekk, ebből 1 összeg nélkül";
 const Form forms[] = {
     {"yellow upright", PrintAlloCsekk, "sarga-csekk", silent, dl, followsDefault},
@@ -63,11 +69,11 @@ const Form forms[] = {
     {"return upright", PrintAlloTerti, "tertiveveny", passOver, {2, 9, {}}, followsDefault},
     {"return sideways", PrintFekvoTerti, "tertiveveny", silent, own(165, 105)},
     {"return upright batch", PrintCsAlloTerti, "tertiveveny", passOver, {2, 9, {}}, batch},
-    {"return sideways batch", PrintCsFekvoTerti, "tertiveveny", silent, own(165, 105), tracking},
+    {"return sideways batch", PrintCsFekvoTerti, "tertiveveny", silent, own(165, 105), batch | followsDefault},
     {"posting upright", PrintAlloFelado, "feladoveveny", fallbackFont, dl},
     {"posting sideways", PrintFekvoFelado, "feladoveveny", silent, own(165, 120), followsDefault},
     {"posting upright batch", PrintCsAlloFelado, "feladoveveny", fallbackFont, dl, taking},
-    {"posting sideways batch", PrintCsFekvoFelado, "feladoveveny", silent, own(165, 120), taking | tracking},
+    {"posting sideways batch", PrintCsFekvoFelado, "feladoveveny", silent, own(165, 120), taking | followsDefault},
     {"document upright", PrintAlloIrat, "irat-tertiveveny", passOver, dl},
     {"document sideways", PrintFekvoIrat, "irat-tertiveveny", passOver, own(105, 165)},
     {"document upright batch", PrintCsAlloIrat, "irat-tertiveveny", passOver, dl, taking},
@@ -76,8 +82,7 @@ const Form forms[] = {
     {"envelope sideways", PrintFekvoBoritek, "boritek", fallbackFont, {1, 28, {}}},
     {"envelope upright batch", PrintCsAlloBoritek, "boritek", fallbackFont, {2, 28, {}}, batch},
     {"envelope sideways batch", PrintCsFekvoBoritek, "boritek", fallbackFont, {1, 28, {}}, batch},
-    // Printer and page are the window's own choice.
-    {"labels", PrintAlloCimke, "cimke", message, {2, 11, {}}, asLeft},
+    {"labels", PrintAlloCimke, "cimke", message, {1, 11, {}}, asLeft},
     {"posting list", PrintFeladojegyzek, "feladojegyzek", message, {2, 11, {}}, asLeft},
 };
 
@@ -102,7 +107,7 @@ protected:
         tabs.envelope.txtBoritekCimzettNev = tabs.cashOnDelivery.lbUNev = tabs.pinkCheck.RlbNev = name;
     }
     PrintOutcome print(const Form& form, const std::vector<int>& selected) {
-        if (*form.summary != '\0') prompts.printerChoices = {PrinterChoice{0, 3}};
+        if (form.asks() && prompts.printerChoices.empty()) prompts.printerChoices = {PrinterChoice{0, 3}};
         return form.routine(desk, tabs, {{1, 2, 1}, selected});
     }
 };
@@ -119,70 +124,71 @@ TEST_F(EveryForm, HasItsTitlePageAndPrinterAndTakesItsClientsOut) {
         for (const Form& form : forms) {
             SCOPED_TRACE(form.name);
             device.setCurrentPrinter(0);
-            device.setOrientation(2); // what another form has left
-            device.setPaperSize(11);
+            device.setPaperSize(11); // what another form has left
             prompts.summaries = {QString()};
             taken = 0;
             const PrintOutcome outcome = print(form, {1, 2});
-            const bool asks = *form.summary != '\0';
-            const int inForce = form.traits & asLeft           ? 0
-                                : !settingsFollowDefault       ? 1
-                                : form.traits & followsDefault ? 2
-                                                               : 0;
+            const int inForce = form.is(asLeft) ? 0 : !settingsFollowDefault ? 1 : form.is(followsDefault) ? 2 : 0;
             const auto& [job, printer] = lastJob();
             EXPECT_EQ(job.title, QLatin1String(form.title));
             EXPECT_EQ(job.pages[0].setup, form.page);
-            EXPECT_EQ(outcome.pages, form.traits & takesAllWhenAutomatic ? 3 : form.traits & batch ? 2 : 1);
+            EXPECT_EQ(outcome.pages, form.is(takesAllWhenAutomatic) ? 3 : form.is(batch) ? 2 : 1);
             EXPECT_EQ(outcome.device, service.names[printer]);
-            EXPECT_EQ(std::pair(printer, job.copies), asks ? std::pair(0, 3) : std::pair(inForce, 1));
+            EXPECT_EQ(std::pair(printer, job.copies), form.asks() ? std::pair(0, 3) : std::pair(inForce, 1));
             EXPECT_EQ(prompts.summaries.back(), QString::fromUtf8(form.summary));
             EXPECT_EQ(device.currentPrinter(), inForce) << "a printer of the dialog is for its job alone";
-            EXPECT_EQ(taken, form.traits & takesClientsOut ? 1 : 0);
+            EXPECT_EQ(taken, form.is(takesClientsOut) ? 1 : 0);
         }
     }
     EXPECT_TRUE(prompts.told.empty());
 }
 
 TEST_F(EveryForm, FailsItsOwnWayAndLeavesNothingToTheNextJob) {
-    const auto always = [](const Form&) { return true; };
-    const auto takesThePrinterOfTheSettings = [](const Form& form) { return (form.traits & asLeft) == 0; };
-    const auto checksNumbers = [](const Form& form) {
-        return (form.traits & batch) != 0 || form.routine == PrintFeladojegyzek;
-    };
-    const auto withDialog = [](const Form& form) { return *form.summary != '\0'; };
+    const auto any = [](const Form&) { return true; };
+    const auto ofTheSettings = [](const Form& form) { return !form.is(asLeft); };
+    const auto withNumbers = [](const Form& form) { return form.is(batch) || form.routine == PrintFeladojegyzek; };
+    const auto withDialog = [](const Form& form) { return form.asks(); };
+    std::vector<int> numbers;
     const struct {
+        const char* name;
         int number;
-        QString trouble; // its beginning
+        QString description;
+        std::function<void()> cause;
         bool (*concerns)(const Form&);
         FailureWay prints; // the way that still prints; silent: none
-    } failures[] = {{9, u"Az index kívül esik a tartományon"_s, takesThePrinterOfTheSettings, passOver},
-                    {482, u"A nyomtató nem fogadja a munkát."_s, always, silent},
-                    {380, u"A betűtípus nem használható: "_s, always, fallbackFont},
-                    {6, u"Túlcsordulás"_s, checksNumbers, passOver},
-                    {32755, u"A nyomtatás megszakítva."_s, withDialog, silent}};
+    } failures[] = {
+        {"printer", 9, u"Az index kívül esik a tartományon"_s, [&] { set.lbPrintNo = 7; }, ofTheSettings, passOver},
+        {"client", 6, u"Túlcsordulás"_s, [&] { numbers.push_back(40000); }, withNumbers, passOver},
+        {"dialog", 32755, u"A nyomtatás megszakítva."_s, [&] { prompts.printerChoices = {std::nullopt}; }, withDialog,
+         silent},
+        {"font", 380, u"Érvénytelen tulajdonságérték"_s, [&] { service.knownFonts = {u"Times New Roman"_s}; }, any,
+         fallbackFont},
+        {"all fonts", 380, u"Érvénytelen tulajdonságérték"_s, [&] { service.knownFonts.clear(); }, any, silent},
+        {"device", 482, u"A nyomtató nem fogadja a munkát."_s, [&] { service.refuseWith = 482; }, any, silent},
+    };
     const RecordingService sound = service;
     for (const auto& failure : failures) {
         for (const Form& form : forms) {
             if (!failure.concerns(form)) continue;
-            SCOPED_TRACE(form.name + std::string(" fails with ") + std::to_string(failure.number));
-            set.lbPrintNo = failure.number == 9 ? 7 : 1;
-            storeSettings();
-            if (failure.number == 482) service.refuseWith = 482;
-            if (failure.number == 380) service.knownFonts = {u"Times New Roman"_s};
+            SCOPED_TRACE(form.name + std::string(": ") + failure.name);
+            numbers = {1};
             prompts.told.clear();
-            if (failure.number == 32755) prompts.printerChoices = {std::nullopt};
-            const std::vector<int> numbers = failure.number == 6 ? std::vector{1, 40000} : std::vector{1};
-            const PrintOutcome outcome =
-                failure.number == 32755 ? form.routine(desk, tabs, {{}, numbers}) : print(form, numbers);
+            failure.cause();
+            storeSettings();
+            const PrintOutcome outcome = print(form, numbers);
             const bool prints = failure.prints != silent && failure.prints == form.way;
             EXPECT_EQ(outcome.pages, prints ? 1 : 0);
             EXPECT_EQ(service.delivered.size(), prints ? 1U : 0U);
-            EXPECT_TRUE(outcome.trouble.startsWith(failure.trouble)) << outcome.trouble.toStdString();
+            const QString trouble = failure.number == 380 ? u"A betűtípus nem használható: "_s : failure.description;
+            EXPECT_TRUE(outcome.trouble.startsWith(trouble)) << outcome.trouble.toStdString();
             const bool tells = !prints && (form.way == message || form.way == fallbackFont);
             ASSERT_EQ(prompts.told.size(), tells ? 1U : 0U);
             for (const Message& told : prompts.told) {
-                EXPECT_EQ(told.title, form.way == message ? u"! HIBA !"_s : u"!  H I B A  ! "_s);
-                EXPECT_TRUE(told.text.contains(QString::number(failure.number))) << told.text.toStdString();
+                const bool warns = form.way == message;
+                EXPECT_EQ(told.icon, warns ? Icon::warning : Icon::none);
+                EXPECT_EQ(told.title, warns ? u"! HIBA !"_s : u"!  H I B A  ! "_s);
+                EXPECT_EQ(told.text, warns ? u"Hiba kódszáma: %1\n%2\n"_s.arg(failure.number).arg(failure.description)
+                                           : u"%2\nHibakód száma : %1"_s.arg(failure.number).arg(failure.description));
             }
             service = sound;
             set.lbPrintNo = 1;
@@ -209,7 +215,7 @@ TEST_F(EveryForm, WithNobodyToPrintForSaysSo) {
         EXPECT_EQ(prompts.told[0].title + prompts.told[0].text, box);
     }
     for (const Form& form : forms) {
-        if ((form.traits & (batch | asLeft)) == 0) continue;
+        if (!form.is(batch) && !form.is(asLeft)) continue;
         EXPECT_EQ(print(form, {}).trouble, u"Nincs kijelölt ügyfél."_s) << form.name;
     }
     EXPECT_TRUE(service.delivered.empty());

@@ -113,6 +113,9 @@ TEST_F(FormRoutineTest, TheUserStopsAJobAtAnyPageOfEitherStage) {
 
 TEST_F(FormRoutineTest, EmptyPagesAreNoneAndSaidSo) {
     EXPECT_EQ(printNumbers({7, 8}).trouble, u"A nyomtatandó adatok mind üresek."_s);
+    EXPECT_TRUE(service.delivered.empty());
+    printNumbers({7, 1, 8, 4});
+    EXPECT_EQ(lastJob().job.pages.size(), 2U);
 }
 
 TEST_F(FormRoutineTest, ClientsAreTakenOutOnceKnownAndBeforeTheFirstPage) {

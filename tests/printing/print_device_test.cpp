@@ -37,24 +37,6 @@ protected:
     }
 };
 
-TEST_F(PrintDeviceTest, NoBlankPagesAndNoEmptyJobs) {
-    device.EndDoc();
-    device.NewPage();
-    device.Print(QString(), LineEnd::yes);
-    device.EndDoc();
-    EXPECT_TRUE(service.delivered.empty());
-
-    write(u"one"_s);
-    device.NewPage();
-    EXPECT_FLOAT_EQ(device.CurrentY(), 0);
-    write(u"two"_s);
-    device.NewPage();
-    device.NewPage();
-    EXPECT_EQ(device.pageCount(), 2);
-    device.EndDoc();
-    EXPECT_EQ(service.delivered.at(0).job.pages.size(), 2U);
-}
-
 TEST_F(PrintDeviceTest, FontErrorsLeaveTheFont) {
     EXPECT_EQ(errorOf([&] { device.setFontName(u"Nincs ilyen"_s); }), 380);
     EXPECT_EQ(errorOf([&] { device.setFontName(u"   "_s); }), 380);
