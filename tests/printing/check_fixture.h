@@ -1,5 +1,6 @@
 #pragma once
 
+#include "printing/form_tabs.h"
 #include "printing/print_desk.h"
 #include "settings/check_layouts.h"
 #include "settings/general_settings.h"
@@ -8,6 +9,9 @@
 #include "support/test_folder.h"
 
 #include <gtest/gtest.h>
+
+// A routine that prints a form.
+using Routine = PrintOutcome (*)(const PrintDesk&, const FormTabs&, const ListRows&);
 
 // A desk on a fresh program folder with factory settings; device 1 of the recording service is the chosen one. Text
 // of 10 points is 1 mm a character and 4 mm a line there.
@@ -18,6 +22,7 @@ protected:
     ScriptedPrompts prompts;
     PrintDevice device{service};
     PrintDesk desk{device, prompts, files};
+    FormTabs tabs;
     Set set = Set::factory();
     SetRcsekk layout = SetRcsekk::factory();
 
@@ -34,6 +39,10 @@ protected:
         set.chkNyomtatando.fill(true);
         set.chkNyomtatando[flag] = false;
         storeSettings();
+    }
+
+    PrintOutcome print(Routine routine, const std::vector<int>& selected = {1, 2}) const {
+        return routine(desk, tabs, {{}, selected});
     }
 
     void addClient(const ClientRec& client, const TwinRec& twin = blankTwin()) const {
@@ -69,29 +78,16 @@ protected:
     const PageSetup& lastSetup() const { return lastJob().job.pages.back().setup; }
 
     // Prints with one flag of the settings off after the other; `gone` are the rows, counted from 1, that go with it.
-    template<class Print>
-    void expectRowsGone(std::initializer_list<std::pair<std::size_t, std::vector<int>>> flags, Print print) {
-        print();
+    void expectRowsGone(std::initializer_list<std::pair<std::size_t, std::vector<int>>> flags, Routine routine) {
+        print(routine);
         const QStringList all = lines();
         for (const auto& [flag, gone] : flags) {
             storeAllFlagsBut(flag);
             QStringList expected = all;
             for (auto row = gone.rbegin(); row != gone.rend(); ++row)
                 expected.removeAt(*row - 1);
-            print();
+            print(routine);
             EXPECT_EQ(page(), joined(expected)) << flag;
-        }
-    }
-
-    // Prints with settings and twins full of one byte, whole, cut short and too long.
-    template<class Print>
-    void printWithDamaged(const char* settings, qsizetype size, Print print) const {
-        for (const char byte : {'\xff', '\0', '9'}) {
-            for (const qsizetype length : {qsizetype{0}, qsizetype{1}, size - 1, size, qsizetype{2000}}) {
-                for (const char* name : {settings, TwinRec::fileName})
-                    files.setBytes(QString::fromLatin1(name), QByteArray(length, byte));
-                print();
-            }
         }
     }
 };

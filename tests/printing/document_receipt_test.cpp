@@ -25,7 +25,6 @@ DocumentReceiptTab filledTab() {
 
 class DocumentReceipt : public CheckTest {
 protected:
-    FormTabs tabs;
     DocumentReceiptTab& tab = tabs.documentReceipt = filledTab();
     SetIrat2 form = SetIrat2::factory();
 
@@ -50,82 +49,42 @@ protected:
     }
 };
 
-TEST_F(DocumentReceipt, Tab) {
-    EXPECT_EQ(PrintAlloIrat(desk, tabs, {}).trouble, QString());
-    EXPECT_EQ(lastJob().job.title, u"irat-tertiveveny"_s);
-    EXPECT_EQ(lastSetup(), (PageSetup{2, 27, {}}));
+TEST_F(DocumentReceipt, TabAndRecordsFillTheSameBoxes) {
+    EXPECT_EQ(print(PrintAlloIrat).trouble, QString());
     EXPECT_EQ(page(), "106 22 T|Kiss Éva; 106 26 T|Győr; 106 30 T|Fő út 2.; 106 34 T|9021; 135 60 T|Vissza Kft.; "
                       "135 64 T|1024 Budapest; 135 68 T|Tér 3.; 161 9 T|saját név; 161 13 T|saját hely; "
                       "161 17 T|saját utca; 72 8 20 Kód 39|*12/A*; 161 24 T|*12/A*; 161 27 T|végzés; "
                       "161 30 T|2 lap; 201 34 T|ért.; 140 4 T|Posta 1; 67 3 T|RL 7");
-
-    PrintFekvoIrat(desk, tabs, {});
-    EXPECT_EQ(lastSetup(), (PageSetup{1, 9, QSizeF(105, 165)}));
-    EXPECT_EQ(page(), "71 19 T|Kiss Éva; 71 23 T|Győr; 71 27 T|Fő út 2.; 71 31 T|9021; 100 57 T|Vissza Kft.; "
-                      "100 61 T|1024 Budapest; 100 65 T|Tér 3.; 126 6 T|saját név; 126 10 T|saját hely; "
-                      "126 14 T|saját utca; 37 5 20 Kód 39|*12/A*; 126 21 T|*12/A*; 126 24 T|végzés; "
-                      "126 27 T|2 lap; 166 31 T|ért.; 105 1 T|Posta 1; 32 0 T|RL 7");
-}
-
-TEST_F(DocumentReceipt, BatchTakesDocumentAndAddressesFromTheRecords) {
-    EXPECT_EQ(PrintCsAlloIrat(desk, tabs, {{}, {2, 1}}).pages, 2);
-    EXPECT_EQ(lastSetup(), (PageSetup{2, 27, {}}));
-    EXPECT_EQ(page(1), "106 22 T|Nagy Áron; 106 26 T|Budapest; 106 30 T|Fő utca 1.; 106 34 T|1024; 135 60 T|Hivatal; "
-                       "135 64 T|Pécs; 135 68 T|Fő tér 1.; 135 72 T|7621; 161 9 T|Hivatal; 161 13 T|7621 Pécs; "
-                       "161 17 T|Fő tér 1.; 72 8 20 Kód 39|99/B; 161 24 T|99/B; 161 27 T|határozat; 161 30 T|3 lap; "
-                       "201 34 T|ért.; 140 4 T|Posta 1; 67 3 T|RL 7");
+    EXPECT_EQ(print(PrintCsFekvoIrat, {2, 1}).pages, 2);
+    EXPECT_EQ(page(1), "71 19 T|Nagy Áron; 71 23 T|Budapest; 71 27 T|Fő utca 1.; 71 31 T|1024; 100 57 T|Hivatal; "
+                       "100 61 T|Pécs; 100 65 T|Fő tér 1.; 100 69 T|7621; 126 6 T|Hivatal; 126 10 T|7621 Pécs; "
+                       "126 14 T|Fő tér 1.; 37 5 20 Kód 39|99/B; 126 21 T|99/B; 126 24 T|határozat; "
+                       "126 27 T|3 lap; 166 31 T|ért.; 105 1 T|Posta 1; 32 0 T|RL 7");
     // What the tab shows of a document is another client's.
-    EXPECT_EQ(page(0, u"20 Kód"_s) + page(0, u"161 2"_s) + page(0, u"161 30"_s), "");
-
-    EXPECT_EQ(PrintCsFekvoIrat(desk, tabs, {{}, {1}}).pages, 1);
-    EXPECT_EQ(lastSetup(), (PageSetup{1, 27, QSizeF(105, 165)}));
-    EXPECT_EQ(lines()[0].toStdString(), "71 19 T|Nagy Áron");
+    EXPECT_EQ(page(0, u"20 Kód"_s) + page(0, u"126 2"_s), "");
 }
 
 TEST_F(DocumentReceipt, SwitchesLeaveTheirRowsOut) {
-    PrintFekvoIrat(desk, tabs, {});
+    print(PrintFekvoIrat);
     const QStringList all = lines();
     const std::tuple<bool*, qsizetype, qsizetype> switches[] = {
         {&tab.chkVisszaCimPrint[0], 4, 3}, {&tab.chkVisszaCimPrint[1], 7, 3}, {&tab.chkVkod, 10, 1}};
     for (const auto& [box, first, count] : switches) {
         *box = false;
-        PrintFekvoIrat(desk, tabs, {});
+        print(PrintFekvoIrat);
         *box = true;
         EXPECT_EQ(page(), joined(all.mid(0, first) + all.mid(first + count)));
     }
 }
 
-TEST_F(DocumentReceipt, FailedStepsArePassedOver) {
+TEST_F(DocumentReceipt, WithoutItsFontTheBarCodeIsAPlainNumber) {
     for (const char16_t* font : {u"", u"Nincs ilyen"}) {
         form.cmbVkodBetutipus.set(font);
         files.store(form);
-        EXPECT_EQ(PrintCsAlloIrat(desk, tabs, {{}, {1}}).trouble,
+        EXPECT_EQ(print(PrintCsAlloIrat, {1}).trouble,
                   u"A vonalkód helyén csak a szám áll, mert a vonalkód betűtípusa hiányzik."_s);
-        EXPECT_EQ(page(0, u"72 8"_s), "72 8 20 Times New Roman CE|99/B");
-        EXPECT_EQ(page(0, u"161 24"_s), "161 24 T|99/B");
+        EXPECT_EQ(page(0, u"99/B"_s), "72 8 20 Times New Roman CE|99/B; 161 24 T|99/B");
     }
-    tab.chkVkod = false;
-    form.cmbIratTertiBetuTipus.set(u"Nincs ilyen");
-    files.store(form);
-    set.lbPrintNo = 7;
-    set.chkPrintDel = 1;
-    storeSettings();
-    int taken = 0;
-    desk.takeSelectedOut = [&] { ++taken; };
-    for (const auto print : {PrintAlloIrat, PrintFekvoIrat, PrintCsAlloIrat, PrintCsFekvoIrat})
-        EXPECT_EQ(print(desk, tabs, {{}, {1, 40000}}).pages, 1);
-    EXPECT_EQ(taken, 2); // the batches
-    EXPECT_EQ(lines()[0].toStdString(), "71 19 T|Nagy Áron");
-    EXPECT_TRUE(prompts.told.empty());
-}
-
-TEST_F(DocumentReceipt, DamagedFilesNeverBringItDown) {
-    const auto printAll = [this] {
-        for (const auto print : {PrintAlloIrat, PrintFekvoIrat, PrintCsAlloIrat, PrintCsFekvoIrat})
-            EXPECT_GT(print(desk, tabs, {{}, {1, 32767}}).pages, 0);
-    };
-    printWithDamaged(SetIrat2::fileName, 182, printAll);
-    printWithDamaged(SetTerti::fileName, 345, printAll);
     EXPECT_TRUE(prompts.told.empty());
 }
 

@@ -21,7 +21,6 @@ protected:
                         .failureWay = FailureWay::silent,
                         .page = dlLandscape,
                         .noun = u"lap"};
-    int clientsPrinted = 0;
 
     FormRoutineTest() {
         for (const int amount : {1500, 0, 10000000, 9999999, 0, -3})
@@ -29,8 +28,7 @@ protected:
     }
 
     PrintOutcome printNumbers(const std::vector<int>& numbers) {
-        return printEach(desk, routine, {{6, 5}, numbers}, [this](Pen& pen, const Set&, const Client& client) {
-            ++clientsPrinted;
+        return printEach(desk, routine, {{6, 5}, numbers}, [](Pen& pen, const Set&, const Client& client) {
             pen.SetFont(u"Arial CE"_s, 10);
             pen.PlaceText(1, 1, client.client.Nev.trimmed());
         });
@@ -113,23 +111,39 @@ TEST_F(FormRoutineTest, TheUserStopsAJobAtAnyPageOfEitherStage) {
     EXPECT_TRUE(prompts.told.empty());
 }
 
-TEST_F(FormRoutineTest, NoPageHasAReason) {
-    EXPECT_EQ(printNumbers({}).trouble, u"Nincs kijelölt ügyfél."_s);
+TEST_F(FormRoutineTest, EmptyPagesAreNoneAndSaidSo) {
     EXPECT_EQ(printNumbers({7, 8}).trouble, u"A nyomtatandó adatok mind üresek."_s);
-    EXPECT_EQ(printOne(desk, routine, [](Pen&, const Set&) {}).trouble, u"A nyomtatandó adatok mind üresek."_s);
-    const Message box{Icon::none, u"Hiba"_s, u" Nincs név... "_s};
-    EXPECT_EQ(printOne(
-                  desk, routine, [](Pen& pen, const Set&) { pen.PlaceText(1, 1, u"x"_s); }, box)
-                  .trouble,
-              u"Nincs név..."_s);
-    EXPECT_EQ(prompts.told.size(), 1U);
     EXPECT_TRUE(service.delivered.empty());
-    // A number that no record has never prints somebody else, even where failed steps are passed over.
-    routine.failureWay = FailureWay::passOver;
-    clientsPrinted = 0;
-    const PrintOutcome passed = printNumbers({1, 40000, 4});
-    EXPECT_EQ(std::tuple(passed.pages, passed.trouble), std::tuple(2, u"Túlcsordulás"_s));
-    EXPECT_EQ(clientsPrinted, 2);
+    printNumbers({7, 1, 8, 4});
+    EXPECT_EQ(lastJob().job.pages.size(), 2U);
+}
+
+TEST_F(FormRoutineTest, ClientsAreTakenOutOnceKnownAndBeforeTheFirstPage) {
+    int taken = 0;
+    desk.takeSelectedOut = [&] { taken += device.pageCount() == 0 && service.delivered.empty() ? 1 : 100; };
+    routine.takesClientsOut = true;
+    const struct {
+        const char* name;
+        std::int16_t printDel, printer;
+        int refuseWith;
+        std::vector<int> numbers;
+        int taken;
+    } cases[] = {{"switched off", 0, 1, 0, {1}, 0},
+                 {"all well", 1, 1, 0, {1, 4}, 1},
+                 {"refused by the device", 1, 1, 482, {1}, 1},
+                 {"no such printer", 1, 7, 0, {1}, 0},
+                 {"no such number", 1, 1, 0, {-1}, 0},
+                 {"declined", 1, 1, 0, upTo(20), 0}};
+    prompts.answers = {Answer::no};
+    for (const auto& row : cases) {
+        std::tie(set.chkPrintDel, set.lbPrintNo) = std::tie(row.printDel, row.printer);
+        storeSettings();
+        service.refuseWith = row.refuseWith;
+        service.delivered.clear();
+        taken = 0;
+        printNumbers(row.numbers);
+        EXPECT_EQ(taken, row.taken) << row.name;
+    }
 }
 
 TEST_F(FormRoutineTest, ThePageIsSetUpOnceOrForEachClient) {

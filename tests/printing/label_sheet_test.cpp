@@ -11,7 +11,6 @@ namespace {
 
 class LabelSheet : public CheckTest {
 protected:
-    FormTabs tabs;
     LabelTab& tab = tabs.label;
     CimkeSetup sheet = zeroRecord<CimkeSetup>();
     Betutip fonts = Betutip::firstRun();
@@ -68,7 +67,6 @@ TEST_F(LabelSheet, TickedPlacesGetTheirClients) {
     EXPECT_EQ(unpadded(), "5 7 T|Név 2; 5 11 T|; 5 15 T|Budapest; 5 19 T|Fő utca 1.; 5 23 T|1024; "
                           "105 108 T|Név 1; 105 112 T|; 105 116 T|Budapest; 105 120 T|Fő utca 1.; 105 124 T|1024");
     EXPECT_EQ(lines().at(0), u"5 7 T|"_s + u"Név 2"_s.leftJustified(36)); // at its full length
-    EXPECT_EQ(lastJob().job.title, u"cimke"_s);
     EXPECT_EQ(count(), 42);
     print();
     EXPECT_EQ(count(), 44); // the same labels again
@@ -122,14 +120,6 @@ TEST_F(LabelSheet, CustomLabelsPrintWhatThePreviewShows) {
     EXPECT_EQ(tab.cimkeRekord[3], 1);
 }
 
-TEST_F(LabelSheet, LabelsPrintOnTheDeviceAndPageInForce) {
-    device.setCurrentPrinter(0); // the settings name another
-    device.setOrientation(2);
-    print({1});
-    EXPECT_EQ(lastJob().printer, 0);
-    EXPECT_EQ(lastSetup(), (PageSetup{2, 9, {}}));
-}
-
 TEST_F(LabelSheet, EachLineHasItsStoredFontOrTheUsualOne) {
     fonts.ComboBetuTipus1[1].set(u"Arial CE");
     fonts.ComboBetuTipus1[2].set({});
@@ -147,14 +137,7 @@ TEST_F(LabelSheet, WhatPrintsNothingIsNotCounted) {
     tab.chkCimke1[1] = false;
     service.refuseWith = 482;
     EXPECT_EQ(trouble({1}), "A nyomtató nem fogadja a munkát.");
-    EXPECT_EQ(prompts.told.at(0).title, u"! HIBA !"_s);
     service.refuseWith = 0;
-    fonts.ComboBetuTipus1[4].set(u"Nincs Ilyen");
-    storeSheet();
-    EXPECT_EQ(trouble({1}), "A betűtípus nem használható: Nincs Ilyen, 10 pont");
-    EXPECT_EQ(prompts.told.size(), 2U);
-    fonts = Betutip::firstRun();
-    storeSheet();
     prompts.answers = {Answer::no};
     EXPECT_EQ(trouble(std::vector<int>(20 * 6 - 5, 1)), "A nyomtatást nem kérted."); // 20 sheets
     const PrintDesk stopping{device, prompts, files, true, [](const PagesDone& pages) { return pages.done < 2; }};
@@ -171,33 +154,11 @@ TEST_F(LabelSheet, ASheetWithoutPlacesEndsAtOnce) {
     }
 }
 
-TEST_F(LabelSheet, DamagedFilesNeverBringItDown) {
-    tab.chkCimke1.fill(true);
-    tab.cimkeRekord.fill(std::numeric_limits<int>::max());
-    tab.cimkeRekord[0] = 1;
-    const struct {
-        const char* name;
-        qsizetype size;
-    } records[] = {{CimkeSetup::fileName, sizeof(CimkeSetup)},
-                   {Betutip::fileName, sizeof(Betutip)},
-                   {Betumeret::fileName, sizeof(Betumeret)}};
-    for (const auto& record : records) {
-        storeSheet();
-        printWithDamaged(record.name, record.size, [this] {
-            for (const bool ticked : {true, false}) {
-                tab.chkCimke1.fill(ticked);
-                for (const bool custom : {true, false}) {
-                    tab.chkEgyediCimke = custom;
-                    print({1, 32767});
-                }
-            }
-        });
-    }
+TEST_F(LabelSheet, TheLargestNumbersAreNoTrouble) {
     sheet.txtLeft = sheet.txtSzeles = Cur::fromTenThousandths(std::numeric_limits<std::int64_t>::max());
     sheet.lbKinyomottCimkeNum = std::numeric_limits<std::int32_t>::max();
     sheet.txtOszlop = sheet.txtSor = std::numeric_limits<std::int16_t>::max();
     storeSheet();
-    tab.chkEgyediCimke = false;
     EXPECT_EQ(print({1, 2, 3}).pages, 1);
     EXPECT_EQ(count(), std::numeric_limits<std::int32_t>::max());
 }

@@ -1,22 +1,13 @@
 #include "printing/pen.h"
-#include "support/recording_service.h"
-#include "support/scripted_prompts.h"
-#include "support/test_folder.h"
 
-#include <gtest/gtest.h>
+#include "check_fixture.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-class PenTest : public testing::Test {
+class PenTest : public CheckTest {
 protected:
-    TestFolder files;
-    RecordingService service;
-    ScriptedPrompts prompts;
-    PrintDevice device{service};
-    PrintDesk desk{device, prompts, files};
-
     Pen pen(FailureWay way) { return {desk, way, u"form"_s}; }
 
     static void writeTwoPages(Pen& pen, const QString& secondFont) {
@@ -34,46 +25,25 @@ protected:
     }
 };
 
-TEST_F(PenTest, FailureWays) {
-    const QString error = u"Érvénytelen tulajdonságérték"_s;
-    const Message errorBox{Icon::warning, u"! HIBA !"_s, u"Hiba kódszáma: 380\n%1\n"_s.arg(error)};
-    const Message otherBox{Icon::none, u"!  H I B A  ! "_s, u"%1\nHibakód száma : 380"_s.arg(error)};
-    struct {
-        FailureWay way;
-        bool fallbackKnown;
-        Message box;        // no text for none
-        QString secondPage; // empty if the job is dropped
-    } const rows[] = {
-        {FailureWay::message, true, errorBox, {}},
-        {FailureWay::silent, true, {}, {}},
-        {FailureWay::passOver, true, {}, u"3.00 4.00 20 Arial CE|second"_s},
-        {FailureWay::fallbackFont, true, {}, u"3.00 4.00 20 Times New Roman|second"_s},
-        {FailureWay::fallbackFont, false, otherBox, {}},
+TEST_F(PenTest, AFontThatALaterPageLacksDropsTheJobOrIsDoneWithout) {
+    const std::pair<FailureWay, QStringList> rows[] = {
+        // the second page, if there is any
+        {FailureWay::message, {}},
+        {FailureWay::silent, {}},
+        {FailureWay::passOver, {u"3.00 4.00 20 Arial CE|second"_s}},
+        {FailureWay::fallbackFont, {u"3.00 4.00 20 Times New Roman|second"_s}},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(static_cast<int>(row.way));
+    for (const auto& [way, secondPage] : rows) {
+        SCOPED_TRACE(static_cast<int>(way));
         service.delivered.clear();
-        service.knownFonts = {u"Arial CE"_s};
-        if (row.fallbackKnown) service.knownFonts << u"Times New Roman"_s;
-        prompts.told.clear();
-        const PrintOutcome outcome = printTwoPages(row.way, u"Nincs ilyen"_s);
-
-        const bool dropped = row.secondPage.isEmpty();
-        EXPECT_EQ(outcome.pages, dropped ? 0 : 2);
+        const PrintOutcome outcome = printTwoPages(way, u"Nincs ilyen"_s);
+        EXPECT_EQ(outcome.pages, secondPage.isEmpty() ? 0 : 2);
         EXPECT_EQ(outcome.trouble, u"A betűtípus nem használható: Nincs ilyen, 20 pont"_s);
-        ASSERT_EQ(service.delivered.empty(), dropped);
+        ASSERT_EQ(service.delivered.empty(), secondPage.isEmpty());
         for (const auto& [job, printer] : service.delivered)
-            EXPECT_EQ(placedTexts(job.pages.at(1)), QStringList(row.secondPage));
-        ASSERT_EQ(prompts.told.size(), row.box.text.isEmpty() ? 0U : 1U);
-        for (const Message& told : prompts.told) {
-            EXPECT_EQ(told.title, row.box.title);
-            EXPECT_EQ(told.text, row.box.text);
-        }
-        // Nothing is left to the next job.
-        const PrintOutcome next = printTwoPages(row.way, u"Arial CE"_s);
-        EXPECT_EQ(service.delivered.back().job.pages.size(), 2U);
-        EXPECT_EQ(next.device, u"PDF fájl"_s);
-        EXPECT_EQ(next.trouble, QString());
+            EXPECT_EQ(placedTexts(job.pages.at(1)), secondPage);
+        const PrintOutcome next = printTwoPages(way, u"Arial CE"_s);
+        EXPECT_EQ(std::pair(next.pages, next.trouble), std::pair(2, QString()));
     }
 }
 
@@ -113,61 +83,12 @@ TEST_F(PenTest, AJobTakesNothingOverFromTheOneBefore) {
     EXPECT_EQ(device.font(), (Font{u"Arial CE"_s, 10}));
 }
 
-TEST_F(PenTest, RefusedDeliveryTakesTheFailureWay) {
+TEST_F(PenTest, ARefusedJobSaysWhyNoPageCameOut) {
     service.refuseWith = 482;
-    for (const FailureWay way : {FailureWay::message, FailureWay::silent, FailureWay::passOver}) {
-        const PrintOutcome outcome = printTwoPages(way, u"Arial CE"_s);
-        EXPECT_EQ(outcome.pages, 0);
-        EXPECT_FALSE(outcome.trouble.isEmpty());
-    }
     Pen noted = pen(FailureWay::silent);
     noted.Note(u"hiányos"_s);
     writeTwoPages(noted, u"Arial CE"_s);
-    EXPECT_EQ(noted.outcome().trouble, u"A nyomtató nem fogadja a munkát."_s) << "why no page came out";
-    ASSERT_EQ(prompts.told.size(), 1U);
-    EXPECT_EQ(prompts.told[0].icon, Icon::warning);
-    EXPECT_TRUE(prompts.told[0].text.startsWith(u"Hiba kódszáma: 482\n"_s));
-}
-
-TEST_F(PenTest, SelectsThePrinterOfTheSettings) {
-    struct {
-        bool systemDefault;
-        TrackDefault track;
-        std::int16_t number;
-        int expected; // -1: the routine fails
-    } const rows[] = {
-        {false, TrackDefault::leave, 1, 1}, {false, TrackDefault::set, 1, 1},   {false, TrackDefault::leave, 3, -1},
-        {false, TrackDefault::set, -1, -1}, {true, TrackDefault::leave, 99, 0}, {true, TrackDefault::set, 99, 2},
-    };
-    for (const auto& row : rows) {
-        service.delivered.clear();
-        device.setCurrentPrinter(0); // in force before
-        auto set = zeroRecord<Set>();
-        set.opPrinter_1 = row.systemDefault;
-        set.lbPrintNo = row.number;
-        Pen pen = this->pen(FailureWay::silent);
-        pen.SelectPrinter(set, row.track);
-        writeTwoPages(pen, u"Arial CE"_s);
-        EXPECT_EQ(service.delivered.empty() ? -1 : service.delivered[0].printer, row.expected);
-    }
-}
-
-TEST_F(PenTest, HeldTextsShareALineAndTheNextRowIsOneLineOfTheFormerFontDown) {
-    Pen pen = this->pen(FailureWay::silent);
-    pen.SetFont(u"Arial CE"_s, 10);
-    pen.PlaceHold(10, 20, u"a"_s);
-    pen.PlaceHold(50, {}, u"b"_s);
-    pen.PlaceText(10, 30, u"c"_s);
-    pen.SetFont(u"Arial CE"_s, 20, Weight::bold);
-    pen.PlaceNext(11, u"d"_s);
-    pen.SkipLine();
-    pen.PlaceNext(12, u"e"_s);
-    pen.EndForm(FormEnd::job);
-    const PrintedPage& page = service.delivered.at(0).job.pages.at(0);
-    EXPECT_EQ(placedTexts(page).join(u';').replace(u"Arial CE"_s, u"A"_s).toStdString(),
-              "10.00 20.00 10 A|a;50.00 20.00 10 A|b;10.00 30.00 10 A|c;11.00 34.00 20 A|d;0.00 42.00 20 A| ;"
-              "12.00 50.00 20 A|e");
-    EXPECT_TRUE(std::get<PlacedText>(page.items.back()).font.bold);
+    EXPECT_EQ(noted.outcome().trouble, u"A nyomtató nem fogadja a munkát."_s);
 }
 
 } // namespace

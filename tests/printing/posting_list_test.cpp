@@ -9,16 +9,12 @@ namespace {
 
 class PostingList : public CheckTest {
 protected:
-    FormTabs tabs;
-
     PostingList() {
         files.store(FjSet::firstRun());
         for (int number = 1; number <= 3; ++number)
             addClient(clientNamed(u"Név %1"_s.arg(number)));
     }
-    PrintOutcome print(const std::vector<int>& selected) {
-        return PrintFeladojegyzek(desk, tabs, {{1, 2, 3}, selected});
-    }
+    PrintOutcome print(const std::vector<int>& selected) { return CheckTest::print(PrintFeladojegyzek, selected); }
 };
 
 TEST_F(PostingList, ALineIsNameSettlementAndPostcodeAsStored) {
@@ -27,7 +23,6 @@ TEST_F(PostingList, ALineIsNameSettlementAndPostcodeAsStored) {
                           "110 70 8 Times New Roman CE|1024; 65 78 8 Times New Roman CE|Név 1; "
                           "127 78 8 Times New Roman CE|Budapest; 110 78 8 Times New Roman CE|1024");
     EXPECT_EQ(lines().at(0), u"65 70 8 Times New Roman CE|"_s + u"Név 3"_s.leftJustified(36));
-    EXPECT_EQ(lastJob().job.title, u"feladojegyzek"_s);
     files.setBytes(u"FjSet.dat"_s, {}); // never stored
     print({1});
     EXPECT_EQ(unpadded().substr(0, 35), "0 0 8 Times New Roman CE|Név 1; 62");
@@ -47,21 +42,10 @@ TEST_F(PostingList, FourteenNamesFillASheet) {
     }
 }
 
-TEST_F(PostingList, WhatPrintsNothingSaysWhy) {
-    const auto trouble = [this](const std::vector<int>& selected) {
-        const PrintOutcome outcome = print(selected);
-        EXPECT_EQ(outcome.pages, 0);
-        EXPECT_TRUE(service.delivered.empty());
-        return outcome.trouble.toStdString();
-    };
-    EXPECT_EQ(trouble({}), "Nincs kijelölt ügyfél.");
-    EXPECT_TRUE(prompts.told.empty());
-    for (const int number : {0, 32768})
-        EXPECT_EQ(trouble({1, number}), "Túlcsordulás"); // never the wrong client
+TEST_F(PostingList, TwentySheetsAreAskedFor) {
     prompts.answers = {Answer::no};
-    EXPECT_EQ(trouble(std::vector<int>(20 * 14 - 13, 1)), "A nyomtatást nem kérted."); // 20 sheets
-    service.refuseWith = 482;
-    EXPECT_EQ(trouble({1}), "A nyomtató nem fogadja a munkát.");
+    EXPECT_EQ(print(std::vector<int>(20 * 14 - 13, 1)).trouble, u"A nyomtatást nem kérted."_s);
+    EXPECT_TRUE(service.delivered.empty());
 }
 
 } // namespace

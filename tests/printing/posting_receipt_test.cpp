@@ -30,7 +30,6 @@ PostingReceiptTab filledTab() {
 
 class PostingReceipt : public CheckTest {
 protected:
-    FormTabs tabs;
     PostingReceiptTab& tab = tabs.postingReceipt = filledTab();
     SetFveveny form = SetFveveny::factory();
 
@@ -41,40 +40,22 @@ protected:
     }
 };
 
-const char* const uprightMarks = "88 35 T|X; 123 40 T|X; 123 35 T|X; 88 40 T|X; 161 35 T|X; 170 23 T|X; 176 23 T|X; "
-                                 "182 23 T|X; 188 23 T|X; 194 23 T|X; 200 23 T|X";
 const char* const sidewaysMarks = "56 41 T|X; 91 46 T|X; 91 41 T|X; 56 46 T|X; 129 41 T|X; 138 29 T|X; 144 29 T|X; "
                                   "150 29 T|X; 156 29 T|X; 162 29 T|X; 168 29 T|X";
 
-TEST_F(PostingReceipt, Tab) {
-    EXPECT_EQ(PrintAlloFelado(desk, tabs, {}).trouble, QString());
-    EXPECT_EQ(lastJob().job.title, u"feladoveveny"_s);
-    EXPECT_EQ(lastSetup(), (PageSetup{2, 27, {}}));
+TEST_F(PostingReceipt, ABatchTakesAddresseesAloneFromTheRecords) {
+    EXPECT_EQ(print(PrintAlloFelado).trouble, QString());
     EXPECT_EQ(page(), "87 46 T|Kiss Éva; 87 50 T|2162   Őrbottyán; 87 54 T|Fő út 2.; 87 19 T|Feladó Kft.; "
                       "87 23 T|1024 Budapest; 87 27 T|Tér 3.; 172 35 T|5000; 172 52 T|700; "
-                      "186 50 8 Times New Roman CE|egy; 169 53 8 Times New Roman CE|kettő; " +
-                          std::string(uprightMarks));
-
-    PrintFekvoFelado(desk, tabs, {});
-    EXPECT_EQ(lastSetup(), (PageSetup{1, 9, QSizeF(165, 120)}));
-    EXPECT_EQ(page(), "55 52 T|Kiss Éva; 55 56 T|2162   Őrbottyán; 55 60 T|Fő út 2.; 55 25 T|Feladó Kft.; "
-                      "55 29 T|1024 Budapest; 55 33 T|Tér 3.; 140 40 T|5000; 140 57 T|700; "
-                      "154 50 8 Times New Roman CE|egy; 137 53 8 Times New Roman CE|kettő; " +
-                          std::string(sidewaysMarks));
-}
-
-TEST_F(PostingReceipt, BatchTakesAddresseesAloneFromTheRecords) {
-    PrintFekvoFelado(desk, tabs, {});
-    const QString rest = lines().mid(3).join(u"; "_s);
-    EXPECT_EQ(PrintCsFekvoFelado(desk, tabs, {{}, {2, 1}}).pages, 2);
-    EXPECT_EQ(lastSetup(), (PageSetup{1, 9, QSizeF(165, 120)}));
+                      "186 50 8 Times New Roman CE|egy; 169 53 8 Times New Roman CE|kettő; 88 35 T|X; 123 40 T|X; "
+                      "123 35 T|X; 88 40 T|X; 161 35 T|X; 170 23 T|X; 176 23 T|X; 182 23 T|X; 188 23 T|X; 194 23 T|X; "
+                      "200 23 T|X");
+    EXPECT_EQ(print(PrintCsFekvoFelado, {2, 1}).pages, 2);
     EXPECT_EQ(page(0, u"Kis B"_s), "55 52 T|Kis Béla");
-    EXPECT_EQ(page(1), "55 52 T|Nagy Áron; 55 56 T|1024   Budapest; 55 60 T|Fő utca 1.; " + rest.toStdString());
-
-    EXPECT_EQ(PrintCsAlloFelado(desk, tabs, {{}, {1, 2}}).pages, 2);
-    EXPECT_EQ(lastSetup(), (PageSetup{2, 27, {}}));
-    EXPECT_EQ(lines(1)[0].toStdString(), "87 46 T|Kis Béla");
-    EXPECT_EQ(page(1, u"|X"_s), uprightMarks);
+    EXPECT_EQ(page(1), "55 52 T|Nagy Áron; 55 56 T|1024   Budapest; 55 60 T|Fő utca 1.; 55 25 T|Feladó Kft.; "
+                       "55 29 T|1024 Budapest; 55 33 T|Tér 3.; 140 40 T|5000; 140 57 T|700; "
+                       "154 50 8 Times New Roman CE|egy; 137 53 8 Times New Roman CE|kettő; " +
+                           std::string(sidewaysMarks));
 }
 
 TEST_F(PostingReceipt, EachBoxTicksItsOwnMark) {
@@ -82,79 +63,24 @@ TEST_F(PostingReceipt, EachBoxTicksItsOwnMark) {
     for (qsizetype i = 0; i < all.size(); ++i) {
         tab = PostingReceiptTab{};
         tab.*marks[i] = true;
-        PrintFekvoFelado(desk, tabs, {});
+        print(PrintFekvoFelado);
         EXPECT_EQ(page(), all[i].toStdString());
     }
 }
 
 TEST_F(PostingReceipt, AValueWhoseBoxIsHiddenPrintsAndIsTold) {
     tab.chkErtek = false;
-    EXPECT_EQ(PrintCsFekvoFelado(desk, tabs, {{}, {1, 2}}).trouble, u"A rejtett érték is nyomtatva: 5000"_s);
+    EXPECT_EQ(print(PrintCsFekvoFelado).trouble, u"A rejtett érték is nyomtatva: 5000"_s);
     EXPECT_EQ(page(1, u"5000"_s), "140 40 T|5000");
     tab.txErtek = u"  "_s;
-    EXPECT_EQ(PrintAlloFelado(desk, tabs, {}).trouble, QString());
+    EXPECT_EQ(print(PrintAlloFelado).trouble, QString());
 }
 
-TEST_F(PostingReceipt, SelectedRowsGoBeforeThePagesPrint) {
-    int taken = 0;
-    desk.takeSelectedOut = [&] { taken += service.delivered.empty() ? 1 : 100; };
-    const struct {
-        std::int16_t printDel, lbPrintNo;
-        int refuseWith;
-        int number;
-        int taken;
-    } cases[] = {{0, 1, 0, 1, 0},
-                 {1, 1, 0, 1, 1},
-                 {1, 1, 482, 1, 1}, // the device fails when the rows are gone
-                 {1, 7, 0, 1, 0},   // it failed before
-                 {1, 1, 0, -1, 0}}; // so did a number
-    for (const auto& row : cases) {
-        std::tie(set.chkPrintDel, set.lbPrintNo) = std::tie(row.printDel, row.lbPrintNo);
-        storeSettings();
-        service.refuseWith = row.refuseWith;
-        for (const auto batch : {PrintCsAlloFelado, PrintCsFekvoFelado}) {
-            service.delivered.clear();
-            batch(desk, tabs, {{}, {row.number}});
-            EXPECT_EQ(std::exchange(taken, 0), row.taken) << &row - cases;
-        }
-    }
-    PrintAlloFelado(desk, tabs, {{}, {1}}); // a single print leaves the list alone
-    prompts.answers = {Answer::no};
-    PrintCsAlloFelado(desk, tabs, {{}, std::vector<int>(20, 1)});
-    EXPECT_EQ(taken, 0);
-}
-
-TEST_F(PostingReceipt, UprightFallsBackToAnotherFontAndTellsOtherErrorsSidewaysIsSilent) {
+TEST_F(PostingReceipt, AnUnknownFontFallsBackInItsSize) {
     form.cmbFeladovevenyBetuTipus.set(u"Nincs ilyen");
     files.store(form);
-    const PrintOutcome outcome = PrintAlloFelado(desk, tabs, {});
-    EXPECT_EQ(outcome.trouble, u"A betűtípus nem használható: Nincs ilyen, 10 pont"_s);
-    EXPECT_EQ(lines()[0].toStdString(), "87 46 10 Times New Roman|Kiss Éva");
-    EXPECT_EQ(lines()[8].toStdString(), "186 50 8 Times New Roman|egy");
-    EXPECT_EQ(PrintFekvoFelado(desk, tabs, {}).pages, 0);
-    EXPECT_TRUE(prompts.told.empty());
-
-    set.lbPrintNo = 7;
-    storeSettings();
-    EXPECT_EQ(PrintCsAlloFelado(desk, tabs, {{}, {1}}).pages, 0);
-    EXPECT_EQ(PrintCsFekvoFelado(desk, tabs, {{}, {1}}).pages, 0);
-    ASSERT_EQ(prompts.told.size(), 1U);
-    EXPECT_EQ(prompts.told[0].title, u"!  H I B A  ! "_s);
-    EXPECT_EQ(prompts.told[0].text, u"Az index kívül esik a tartományon\nHibakód száma : 9"_s);
-}
-
-TEST_F(PostingReceipt, DamagedFilesNeverBringItDown) {
-    printWithDamaged(SetFveveny::fileName, 341, [this] {
-        for (const auto print : {PrintAlloFelado, PrintFekvoFelado, PrintCsAlloFelado, PrintCsFekvoFelado})
-            print(desk, tabs, {{}, {1, 32767}});
-    });
-    std::memset(static_cast<void*>(&form), 0xff, sizeof form);
-    form.cmbFeladovevenyBetuTipus.set(u"Arial CE");
-    form.txtFeladovevenyBetuMeret = 32767;
-    form.txtFeladovevenyBetuMeret2 = 0; // passed over upright, in another font
-    files.store(form);
-    EXPECT_EQ(PrintAlloFelado(desk, tabs, {}).pages, 1);
-    EXPECT_EQ(page(0, u"egy"_s), "32 -0 32767 Times New Roman|egy");
+    EXPECT_EQ(print(PrintAlloFelado).trouble, u"A betűtípus nem használható: Nincs ilyen, 10 pont"_s);
+    EXPECT_EQ(page(0, u"Éva"_s) + page(0, u"egy"_s), "87 46 10 Times New Roman|Kiss Éva186 50 8 Times New Roman|egy");
 }
 
 } // namespace

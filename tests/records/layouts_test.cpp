@@ -1,5 +1,4 @@
 #include "records/client_records.h"
-#include "records/reference_records.h"
 #include "support/test_folder.h"
 
 #include <gtest/gtest.h>
@@ -26,16 +25,4 @@ TEST(Layouts, ClientAndTwinAreTheseBytes) {
         QByteArray("\xD4\x30\0\0", 4) + QByteArray(40, '\0') + QByteArray(4, '\xFF') + QByteArray(58, ' ') + "\xFF\xFF";
     EXPECT_EQ(folder.bytes(u"nevek1.dat"_s), expected);
     EXPECT_EQ(folder.bytes(u"kozl3sor.dat"_s), QByteArray(105, ' ') + QByteArray("RL 1").leftJustified(30));
-}
-
-TEST(Layouts, DamagedRecordsReadWithoutHarm) {
-    for (const char junk : {'\0', '\xFF', '\x81'}) {
-        const TestFolder folder;
-        folder.setBytes(u"nevek1.dat"_s, QByteArray(271, junk));
-        folder.setBytes(u"Budapest.dat"_s, QByteArray(62, junk));
-        const auto client = readRecord<ClientRec>(folder);
-        EXPECT_EQ(client.Nev.trimmed().size(), junk == '\0' ? 0 : 36);
-        EXPECT_EQ(isUsableAmount(client.Osszegek[0]), false);
-        EXPECT_EQ(readRecord<BudapestRec>(folder).Kerulet.stored().size(), junk == '\0' ? 0 : 6);
-    }
 }
