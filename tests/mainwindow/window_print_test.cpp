@@ -3,6 +3,7 @@
 #include "settings/receipt_layouts.h"
 #include "window_fixture.h"
 
+#include <QProgressBar>
 #include <QPushButton>
 
 namespace {
@@ -172,9 +173,10 @@ TEST_F(WindowPrint, LongWorkShowsItselfAndOnlyItsCancelIsServed) {
     WorkInProgress work(owner, line);
     const auto runUntilShown = [&](WorkInProgress::Cancel cancel) {
         bool goesOn = true;
-        while (goesOn && !QApplication::overrideCursor())
+        while (goesOn && !line.findChild<QProgressBar*>()->isVisible())
             goesOn = work.step(1, 2, QStringLiteral("1. lap / 2…"), cancel);
         EXPECT_EQ(line.currentMessage(), QStringLiteral("1. lap / 2…"));
+        EXPECT_NE(QApplication::overrideCursor(), nullptr);
         return goesOn;
     };
     const std::function<void()> cancels[] = {

@@ -183,7 +183,7 @@ TEST(ClientDatabase, RefusedCommitLeavesTheOldPair) {
 TEST(ClientDatabase, MissingProgramFolderIsNoDatabase) {
     const ProgramFolder nowhere(u"/nincs/ilyen/mappa"_s);
     EXPECT_THROW((void)clientCount(nowhere), UnreadableFile);
-    EXPECT_EQ(addClient(nowhere, numbered(1)), 0);
+    EXPECT_THROW((void)addClient(nowhere, numbered(1)), UnreadableFile);
     EXPECT_THROW((void)deleteClient(nowhere, 1), UnreadableFile);
     EXPECT_FALSE(wipeClients(nowhere));
     EXPECT_EQ(finishInterruptedCommit(nowhere), Recovery::settled) << "nothing was begun there";
