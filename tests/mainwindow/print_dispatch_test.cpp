@@ -226,7 +226,7 @@ TEST_F(PrintDispatch, LabelsAndPostingListAskForTheirPageOnTheChosenPrinter) {
     set.lbPrintNo = 7;
     storeSettings();
     prompts.answers = {Answer::yes};
-    EXPECT_EQ(printLabels().trouble, QStringLiteral("Az index kívül esik a tartományon"));
+    EXPECT_EQ(printLabels().trouble, QStringLiteral("A kiválasztott nyomtató nem érhető el, válassz másikat!"));
     EXPECT_EQ(prompts.told.at(0).title, QStringLiteral("! HIBA !"));
 }
 

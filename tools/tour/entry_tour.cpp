@@ -53,7 +53,7 @@ void Tour::enterClients() {
     type("txBefizetoCim2", QStringLiteral("Ausztria"));
     saveEntry(203, QStringLiteral("Maria Gruber"));
 
-    clickRow(200);
+    clickClient(201);
     click("cmdModosit");
     type("txBefizetoNeve", QStringLiteral("Kovács Éva Mária"));
     saveEntry(201, QStringLiteral("Kovács Éva Mária"));

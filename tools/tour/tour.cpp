@@ -1,5 +1,6 @@
 #include "tour.h"
 
+#include "mainwindow/client_list_model.h"
 #include "mainwindow/stationery_page.h"
 #include "overlay.h"
 #include "records/client_database.h"
@@ -113,6 +114,14 @@ void Tour::click(const char* name) {
     // Check boxes and options react on their indicator, at the left.
     const bool narrow = qobject_cast<QPushButton*>(widget) == nullptr;
     QTest::mouseClick(widget, Qt::LeftButton, {}, narrow ? QPoint(8, widget->height() / 2) : QPoint());
+}
+
+void Tour::clickClient(int number) {
+    const QAbstractItemModel& list = *window_->findChild<QTreeView*>(QStringLiteral("ListView1"))->model();
+    int row = 0;
+    while (row + 1 < list.rowCount() && list.index(row, ClientListModel::rec).data().toString().toInt() != number)
+        ++row;
+    clickRow(row);
 }
 
 void Tour::clickRow(int row, Qt::KeyboardModifiers modifiers) {

@@ -53,6 +53,7 @@ private:
     void shoot(const QString& name);
     void click(const char* name);
     void clickRow(int row, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    void clickClient(int number); // wherever it stands in the list
     void showTab(int tab);
     void type(const char* box, const QString& text);
     void print(const char* button, const QString& form, int pages);
