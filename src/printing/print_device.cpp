@@ -171,7 +171,8 @@ PrintedPage& PrintDevice::page() {
 }
 
 int PrintDevice::requirePrinter(int index) {
-    if (index < 0 || index >= service_.printers().size()) throw DeviceError(9, u"A kiválasztott nyomtató nem érhető el, válassz másikat!"_s);
+    if (index < 0 || index >= service_.printers().size())
+        throw DeviceError(9, u"A kiválasztott nyomtató nem érhető el, válassz másikat!"_s);
     return index;
 }
 

@@ -157,7 +157,8 @@ TEST_F(EveryForm, FailsItsOwnWayAndLeavesNothingToTheNextJob) {
         bool (*concerns)(const Form&);
         FailureWay prints; // the way that still prints; silent: none
     } failures[] = {
-        {"printer", 9, u"A kiválasztott nyomtató nem érhető el, válassz másikat!"_s, [&] { set.lbPrintNo = 7; }, ofTheSettings, passOver},
+        {"printer", 9, u"A kiválasztott nyomtató nem érhető el, válassz másikat!"_s, [&] { set.lbPrintNo = 7; },
+         ofTheSettings, passOver},
         {"client", 6, u"Túlcsordulás"_s, [&] { numbers.push_back(40000); }, withNumbers, passOver},
         {"dialog", 32755, u"A nyomtatás megszakítva."_s, [&] { prompts.printerChoices = {std::nullopt}; }, withDialog,
          silent},
