@@ -42,27 +42,19 @@ QByteArray askDriverSettings(const QString& printer, const QByteArray& before, Q
     return answer == IDOK ? settings : before;
 }
 
-DriverSettings::DriverSettings(const QByteArray& settings) {
-    if (settings.isEmpty()) return;
-    memory_ = GlobalAlloc(GHND, static_cast<SIZE_T>(settings.size()));
-    void* const bytes = memory_ != nullptr ? GlobalLock(memory_) : nullptr;
-    if (bytes == nullptr) return;
-    std::memcpy(bytes, settings.constData(), static_cast<std::size_t>(settings.size()));
-    GlobalUnlock(memory_);
-}
-
-DriverSettings::~DriverSettings() {
-    if (memory_ != nullptr) GlobalFree(memory_);
-}
-
-void DriverSettings::applyTo(QPrinter& printer) const {
+std::shared_ptr<void> giveDriverSettings(const QByteArray& settings, QPrinter& printer) {
     auto* const engine = dynamic_cast<QWin32PrintEngine*>(printer.printEngine());
-    if (memory_ != nullptr && engine != nullptr) engine->setGlobalDevMode(nullptr, memory_);
+    if (settings.isEmpty() || engine == nullptr) return nullptr;
+    const std::shared_ptr<void> memory(GlobalAlloc(GHND, static_cast<SIZE_T>(settings.size())), GlobalFree);
+    void* const bytes = memory ? GlobalLock(memory.get()) : nullptr;
+    if (bytes == nullptr) return nullptr;
+    std::memcpy(bytes, settings.constData(), static_cast<std::size_t>(settings.size()));
+    GlobalUnlock(memory.get());
+    engine->setGlobalDevMode(nullptr, memory.get());
+    return memory;
 }
 #else
 bool hasDriverDialog() { return false; }
 QByteArray askDriverSettings(const QString&, const QByteArray& before, QWidget*) { return before; }
-DriverSettings::DriverSettings(const QByteArray&) {}
-DriverSettings::~DriverSettings() = default;
-void DriverSettings::applyTo(QPrinter&) const {}
+std::shared_ptr<void> giveDriverSettings(const QByteArray&, QPrinter&) { return nullptr; }
 #endif

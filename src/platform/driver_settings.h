@@ -3,6 +3,8 @@
 #include <QByteArray>
 #include <QString>
 
+#include <memory>
+
 class QPrinter;
 class QWidget;
 
@@ -16,16 +18,5 @@ bool hasDriverDialog();
 // the printer has no such dialog.
 QByteArray askDriverSettings(const QString& printer, const QByteArray& before, QWidget* parent);
 
-// Hands them to a printer for as long as this lives, which has to be longer than the printer. Empty ones change
-// nothing.
-class DriverSettings {
-public:
-    explicit DriverSettings(const QByteArray& settings);
-    DriverSettings(const DriverSettings&) = delete;
-    DriverSettings& operator=(const DriverSettings&) = delete;
-    ~DriverSettings();
-    void applyTo(QPrinter& printer) const;
-
-private:
-    void* memory_ = nullptr; // as the platform keeps them
-};
+// Hands them to a printer; empty ones change nothing. What it gives has to live longer than the printer.
+[[nodiscard]] std::shared_ptr<void> giveDriverSettings(const QByteArray& settings, QPrinter& printer);

@@ -32,11 +32,11 @@ const QString& PrinterWarnings::first() const { return firstWarning; }
 
 void printNatively(const PrintJob& job, const QPrinterInfo& info, FontBook& fonts, const PaperOffer& offer,
                    const PagePainted& painted) {
-    const DriverSettings settings(job.driverSettings);
+    std::shared_ptr<void> settings; // lives longer than the printer
     // Named by its info: a printer made without a name prints on whatever is first.
     QPrinter printer(info, QPrinter::HighResolution);
     if (!printer.isValid()) throw DeviceError(482, u"A nyomtató nem használható: "_s + info.printerName());
-    settings.applyTo(printer);
+    settings = giveDriverSettings(job.driverSettings, printer);
     printer.setDocName(job.title);
     const bool makesCopies = printer.supportsMultipleCopies();
     if (makesCopies) printer.setCopyCount(job.copies);
