@@ -82,7 +82,7 @@ public:
 
 private:
     void open() {
-        zone_ = std::make_unique<ClientZone>(restingFolder(clients_));
+        zone_ = std::make_unique<ClientZone>(restingFolder(clients_), prompts_);
         zone_->resize(1200, 200);
         zone_->show();
         zone_->Beolvas();
@@ -92,6 +92,7 @@ private:
 
     int clients_;
     Order order_;
+    QuietPrompts prompts_;
     std::unique_ptr<ClientZone> zone_;
 };
 

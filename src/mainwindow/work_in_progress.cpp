@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr int cursorMs = 50; // shorter work shows nothing
+constexpr int cursorMs = 20; // shorter work shows nothing
 constexpr int quietMs = 500; // longer work shows how far it is
 constexpr int lookMs = 40;   // between two looks at what waits: a page is often done in less than a millisecond
 
