@@ -78,8 +78,10 @@ void DatabaseActions::cmdDel_Click(int rekordszam, const QString& shownName) {
         return deleteClient(folder_, rekordszam);
     }();
     if (!deleted) return prompts_.tell(messages::notWritten());
-    Q_EMIT changed({ClientsChanged::removed, rekordszam});
-    Q_EMIT said(u"Az ügyfél törölve, %1 ügyfél maradt."_s.arg(clientCount(folder_)));
+    afterwards([&] {
+        Q_EMIT changed({ClientsChanged::removed, rekordszam});
+        Q_EMIT said(u"Az ügyfél törölve, %1 ügyfél maradt."_s.arg(clientCount(folder_)));
+    });
 }
 
 void DatabaseActions::mnuAdatbazisTorles_Click() {
@@ -105,10 +107,12 @@ void DatabaseActions::mnuAdatCsvbol_Click() {
     };
     switch (outcome.result) {
     case ImportOutcome::Result::imported:
-        Q_EMIT changed({mode == ImportMode::overwrite ? ClientsChanged::replaced : ClientsChanged::appended});
-        Q_EMIT said(
-            u"%1 ügyfél beolvasva, az adatbázisban %2 ügyfél van."_s.arg(outcome.clients).arg(clientCount(folder_)));
-        return tellImported(outcome);
+        return afterwards([&] {
+            Q_EMIT changed({mode == ImportMode::overwrite ? ClientsChanged::replaced : ClientsChanged::appended});
+            Q_EMIT said(u"%1 ügyfél beolvasva, az adatbázisban %2 ügyfél van."_s.arg(outcome.clients)
+                            .arg(clientCount(folder_)));
+            tellImported(outcome);
+        });
     case ImportOutcome::Result::empty:
         return refuse(u"A fájl üres"_s);
     case ImportOutcome::Result::calledOff: // nobody does
@@ -227,8 +231,10 @@ void DatabaseActions::tellConverted(Conversion conversion) {
     const auto refuse = [this](const QString& why) { prompts_.tell({Icon::warning, u"FIGYELEM!"_s, why}); };
     switch (conversion) {
     case Conversion::converted:
-        Q_EMIT changed({ClientsChanged::replaced});
-        Q_EMIT said(u"%1 ügyfél konvertálva."_s.arg(clientCount(folder_)));
+        afterwards([&] {
+            Q_EMIT changed({ClientsChanged::replaced});
+            Q_EMIT said(u"%1 ügyfél konvertálva."_s.arg(clientCount(folder_)));
+        });
         return;
     case Conversion::nothingThere:
         return refuse(u"Nincsen elérhető konvertálandó fájl!\n"_s);

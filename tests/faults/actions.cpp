@@ -156,7 +156,11 @@ void openWindow(Stage& stage) {
 Work deleteButton(Stage& stage) {
     openWindow(stage);
     stage.clickSecondClient();
-    return [&stage] { return pressed(stage.prompts, stage.find<QAbstractButton>("cmdDel")); };
+    return [&stage] {
+        const Told told = pressed(stage.prompts, stage.find<QAbstractButton>("cmdDel"));
+        // A list that can't be read behind it has a box of its own; the status line says what was done.
+        return stage.status().starts_with("Az ügyfél törölve") ? Told::done : told;
+    };
 }
 
 Work pictureButton(Stage& stage) {

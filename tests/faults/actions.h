@@ -18,6 +18,7 @@ public:
     using WindowTest::find;
     using WindowTest::open;
     using WindowTest::prompts;
+    using WindowTest::status;
     using WindowTest::window;
 
     const TestFolder& folder() const { return files; }
