@@ -20,12 +20,15 @@ public:
         , offer_(offer)
         , painted_(painted) {}
 
-    void paint(const PrintJob& job) {
-        for (int number = 0; const PrintedPage& page : job.pages) {
+    void paint(const PrintJob& job, int times) {
+        const auto pages = static_cast<int>(job.pages.size());
+        for (int number = 0; number < pages * times;) {
+            const PrintedPage& page = job.pages[static_cast<std::size_t>(number % pages)];
             startPage(page.setup);
             for (const PlacedItem& item : page.items)
                 std::visit([this](const auto& placed) { paint(placed); }, item);
-            if (painted_ && !painted_(++number, static_cast<int>(job.pages.size()))) drop(stoppedByUser());
+            ++number;
+            if (painted_ && !painted_(number, pages * times)) drop(stoppedByUser());
         }
         if (painter_.isActive() && !painter_.end()) fail(u"A nyomtatást nem sikerült befejezni."_s);
     }
@@ -96,13 +99,6 @@ private:
 } // namespace
 
 void paintJob(const PrintJob& job, QPagedPaintDevice& device, FontBook& fonts, const PaperOffer& offer,
-              const PagePainted& painted) {
-    JobPainter(device, fonts, offer, painted).paint(job);
-}
-
-PrintJob withCopies(const PrintJob& job) {
-    PrintJob all = job;
-    for (int copy = 1; copy < job.copies; ++copy)
-        all.pages.insert(all.pages.end(), job.pages.begin(), job.pages.end());
-    return all;
+              const PagePainted& painted, int times) {
+    JobPainter(device, fonts, offer, painted).paint(job, times);
 }

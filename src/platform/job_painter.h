@@ -15,9 +15,7 @@ using PagePainted = std::function<bool(int painted, int pages)>;
 // painter of all devices: what it places on one, it places alike on every other. A job without pages leaves the device
 // untouched, and so does one whose first page it doesn't take. DeviceError 482 if the device fails, 18 if it was
 // stopped; the pages painted until then are the caller's concern. A PDF writer doesn't look at what becomes of its
-// bytes: give it a buffer, and check the file that this becomes (pdf_file.h).
+// bytes: give it a buffer, and check the file that this becomes (pdf_file.h). `times`: all pages again and again, for
+// a device that makes no copies itself.
 void paintJob(const PrintJob& job, QPagedPaintDevice& device, FontBook& fonts, const PaperOffer& offer = {},
-              const PagePainted& painted = {});
-
-// The job with its pages once for each copy, for a device that makes none itself. A file has no copies.
-PrintJob withCopies(const PrintJob& job);
+              const PagePainted& painted = {}, int times = 1);

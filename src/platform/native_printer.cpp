@@ -43,7 +43,7 @@ void printNatively(const PrintJob& job, const QPrinterInfo& info, FontBook& font
     // A page is a preprinted sheet: where the driver prints on both sides by itself, every second form would be lost.
     printer.setDuplex(QPrinter::DuplexNone);
     const PrinterWarnings warnings;
-    paintJob(makesCopies ? job : withCopies(job), printer, fonts, offer, painted);
+    paintJob(job, printer, fonts, offer, painted, makesCopies ? 1 : job.copies);
     if (!warnings.first().isEmpty())
         throw DeviceError(482, u"A nyomtató nem fogadta el a feladatot: "_s + warnings.first());
 }

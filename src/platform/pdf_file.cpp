@@ -27,17 +27,29 @@ QByteArray exactBox(const PageSetup& setup) {
 
 // Qt holds pages in whole points, up to 0.18 mm off. Each box is put right in its place, in the number of bytes that it
 // has, because the table at the end of the file counts them; one that doesn't fit is left as it is.
-void correctBoxes(QByteArray& pdf, const std::vector<PrintedPage>& pages) {
+void correctBoxes(QByteArray& pdf, const PrintJob& job) {
     const QByteArray mark = "/MediaBox [";
     qsizetype at = 0;
-    for (const PrintedPage& page : pages) {
-        at = pdf.indexOf(mark, at);
-        if (at < 0) return;
+    for (std::size_t number = 0; (at = pdf.indexOf(mark, at)) >= 0; ++number) {
         at += mark.size();
-        const QByteArray box = exactBox(page.setup);
+        const QByteArray box = exactBox(job.pages[number % job.pages.size()].setup);
         const qsizetype room = pdf.indexOf(']', at) - at;
         if (box.size() <= room) pdf.replace(at, room, box.leftJustified(room, ' '));
     }
+}
+
+QByteArray paintedPdf(const PrintJob& job, FontBook& fonts, const PaperOffer& offer, const PagePainted& painted,
+                      int times) {
+    QByteArray pdf;
+    QBuffer buffer(&pdf);
+    buffer.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&buffer);
+    writer.setTitle(job.title);
+    // A dot is a paper unit, so no text needs a scale of its own: less to write for each.
+    writer.setResolution(static_cast<int>(paperUnitsPerInch));
+    paintJob(job, writer, fonts, offer, painted, times);
+    buffer.close();
+    return pdf;
 }
 
 // Made if it is missing; its name has to outlast a power failure like those of the files in it.
@@ -51,21 +63,12 @@ bool isFolderThere(const QString& folder) {
 } // namespace
 
 QByteArray pdfForPrinter(const PrintJob& job, FontBook& fonts, const PaperOffer& offer, const PagePainted& painted) {
-    QByteArray pdf;
-    QBuffer buffer(&pdf);
-    buffer.open(QIODevice::WriteOnly);
-    QPdfWriter writer(&buffer);
-    writer.setTitle(job.title);
-    // A dot is a paper unit, so no text needs a scale of its own: less to write for each.
-    writer.setResolution(static_cast<int>(paperUnitsPerInch));
-    paintJob(job, writer, fonts, offer, painted);
-    buffer.close();
-    return pdf;
+    return paintedPdf(job, fonts, offer, painted, 1);
 }
 
 QByteArray pdfOf(const PrintJob& job, FontBook& fonts, const PagePainted& painted) {
-    QByteArray pdf = pdfForPrinter(job, fonts, {}, painted);
-    correctBoxes(pdf, job.pages);
+    QByteArray pdf = paintedPdf(job, fonts, {}, painted, job.copies);
+    correctBoxes(pdf, job);
     return pdf;
 }
 

@@ -6,12 +6,12 @@
 #include <QByteArray>
 #include <QDateTime>
 
-// The job as a PDF: fonts embedded, text extractable, every page of exactly the size that was asked for. The
-// job's number of copies is the caller's concern. DeviceError 482, 18 if it was stopped.
+// The job as a PDF: fonts embedded, text extractable, every page of exactly the size that was asked for. Its
+// pages stand once for each copy. DeviceError 482, 18 if it was stopped.
 QByteArray pdfOf(const PrintJob& job, FontBook& fonts, const PagePainted& painted = {});
 
-// The same for a printer that takes PDFs: on sheets of its offer, whose pages stay in whole points as its drivers have
-// them.
+// The same, once, for a printer that takes PDFs and makes the copies itself: on sheets of its offer, whose pages stay
+// in whole points as its drivers have them.
 QByteArray pdfForPrinter(const PrintJob& job, FontBook& fonts, const PaperOffer& offer,
                          const PagePainted& painted = {});
 

@@ -49,12 +49,10 @@ void QtPrintService::deliver(const PrintJob& job, int printer) {
     if (printer < 0 || printer >= printers_.size())
         throw DeviceError(9, u"Nincs ilyen sorszámú nyomtató a listában."_s);
     if (job.pages.empty()) return;
-    const auto pdf = [&](const PrintJob& pages) { return pdfOf(pages, fonts_, pagePainted(true)); };
     if (printer + 1 < printers_.size())
         printOn(printers_[printer], job);
     else
-        // A job of one copy is painted as it is: its texts a second time would be half the memory of a large batch.
-        lastPdf_ = saveNewFile(job.copies == 1 ? pdf(job) : pdf(withCopies(job)), pdfFolder_,
+        lastPdf_ = saveNewFile(pdfOf(job, fonts_, pagePainted(true)), pdfFolder_,
                                pdfFileName(job.title, QDateTime::currentDateTime()));
 }
 
