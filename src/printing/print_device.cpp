@@ -2,16 +2,11 @@
 
 #include <QScopeGuard>
 
-#include <cmath>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-constexpr float mmPerTwip = 25.4F / 1440.0F;
-constexpr float a4Width = 210;
-constexpr float a4Height = 297;
 
 QString defaultTitle() { return u"Tarlimo"_s; }
 
@@ -73,16 +68,6 @@ void PrintDevice::setTrackDefault(bool follow) {
 void PrintDevice::setSizeMm(float width, float height) {
     setup_.orientation = 1;
     setup_.sizeMm = QSizeF(static_cast<double>(width), static_cast<double>(height));
-}
-
-void PrintDevice::setSizeTwips(float width, float height) {
-    const float widthMm = width * mmPerTwip;
-    const float heightMm = height * mmPerTwip;
-    if (std::abs(widthMm - a4Width) <= 1 && std::abs(heightMm - a4Height) <= 1) {
-        setup_ = PageSetup{};
-    } else {
-        setSizeMm(widthMm, heightMm);
-    }
 }
 
 bool PrintDevice::knowsFont(const QString& name) const {

@@ -38,10 +38,9 @@ public:
     const PageSetup& pageSetup() const { return setup_; }
     void setScaleMode(int mode); // 6, millimetres, is the one served; DeviceError 380 for others
     void setOrientation(int orientation);
-    void setPaperSize(int paperCode);             // ends a size of the form's own
-    void setTrackDefault(bool follow);            // True: the system's default device, asked afresh when a job begins
-    void setSizeMm(float width, float height);    // the form's own size, with orientation 1
-    void setSizeTwips(float width, float height); // the same in 1/1440 inch; within 1 mm of A4 it is plain A4
+    void setPaperSize(int paperCode);          // ends a size of the form's own
+    void setTrackDefault(bool follow);         // True: the system's default device, asked afresh when a job begins
+    void setSizeMm(float width, float height); // the form's own size, with orientation 1
 
     // Whether setFontName takes the name.
     bool knowsFont(const QString& name) const;
